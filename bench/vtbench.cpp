@@ -1,0 +1,171 @@
+// Benchmarks of the computation functions through the engine, each printed
+// as a ratio against a plain pass over the same data measured in the same
+// run, so that the numbers mean something on any machine.
+
+#include "engine.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cmath>
+#include <cstdio>
+#include <cstring>
+#include <map>
+#include <string>
+
+namespace {
+
+constexpr std::size_t kPoints = 10'000'000;
+constexpr int kCycles = 1000;
+
+const vtkit::ScriptValue& wave()
+{
+    static const vtkit::ScriptValue* w = [] {
+        std::vector<double> x(kPoints), y(kPoints);
+        for (std::size_t i = 0; i < kPoints; ++i) {
+            x[i] = double(i) * 1e-7;
+            y[i] = std::sin(2 * M_PI * kCycles * double(i) / double(kPoints));
+        }
+        return new vtkit::ScriptValue(vtkit::ScriptValue::waveform(y, x, "Voltage", "Time"));
+    }();
+    return *w;
+}
+
+const std::string& text()
+{
+    static const std::string* t = [] {
+        auto* s = new std::string;
+        const char* words[] = {"alpha", "be\\ ta", "gamma,delta", "ep\\,silon", "zeta\t"};
+        for (std::size_t i = 0; s->size() < (1u << 20); ++i) {
+            *s += words[i % 5];
+            *s += ' ';
+        }
+        return s;
+    }();
+    return *t;
+}
+
+vtkit::Engine& engine()
+{
+    static vtkit::Engine* e = [] {
+        auto* engine = new vtkit::Engine;
+        if (!engine->load(VT_MODULE_PATH))
+            std::abort();
+        return engine;
+    }();
+    return *e;
+}
+
+void PlainPass(benchmark::State& state)
+{
+    const vtkit::ScriptValue& w = wave();
+    for (auto _ : state) {
+        double sum = 0;
+        for (std::size_t i = 0; i < kPoints; ++i)
+            sum += w.values[i] * w.x[i];
+        benchmark::DoNotOptimize(sum);
+    }
+}
+
+void PerCycleValueRms(benchmark::State& state)
+{
+    using vtkit::ScriptValue;
+    const std::vector<ScriptValue> args = {wave(), ScriptValue::fromReals({0}),
+                                           ScriptValue::fromStrings({"rms"}),
+                                           ScriptValue::fromStrings({""}),
+                                           ScriptValue::fromReals({1})};
+    for (auto _ : state) {
+        vtkit::CallResult r = engine().call("PerCycleValue", args);
+        if (r.value.values.size() != 2 * (kCycles - 1))
+            state.SkipWithError("unexpected cycle count");
+        benchmark::DoNotOptimize(r);
+    }
+}
+
+void PerCycleTimingFrequency(benchmark::State& state)
+{
+    using vtkit::ScriptValue;
+    const std::vector<ScriptValue> args = {wave(), ScriptValue::fromStrings({"frequency"})};
+    for (auto _ : state) {
+        vtkit::CallResult r = engine().call("PerCycleTiming", args);
+        benchmark::DoNotOptimize(r);
+    }
+}
+
+void PlainScan(benchmark::State& state)
+{
+    const std::string& t = text();
+    for (auto _ : state) {
+        std::size_t parts = 0;
+        for (char c : t)
+            parts += (c == ' ' || c == ',' || c == '\t');
+        benchmark::DoNotOptimize(parts);
+    }
+}
+
+void ParseEscape(benchmark::State& state)
+{
+    const std::vector<vtkit::ScriptValue> args = {vtkit::ScriptValue::fromStrings({text()})};
+    for (auto _ : state) {
+        vtkit::CallResult r = engine().call("ParseEscape", args);
+        benchmark::DoNotOptimize(r);
+    }
+}
+
+BENCHMARK(PlainPass)->Unit(benchmark::kMillisecond);
+BENCHMARK(PerCycleValueRms)->Unit(benchmark::kMillisecond);
+BENCHMARK(PerCycleTimingFrequency)->Unit(benchmark::kMillisecond);
+BENCHMARK(PlainScan)->Unit(benchmark::kMillisecond);
+BENCHMARK(ParseEscape)->Unit(benchmark::kMillisecond);
+
+// Keeps the console output and remembers each case's real time.
+class RatioReporter : public benchmark::ConsoleReporter {
+public:
+    void ReportRuns(const std::vector<Run>& runs) override
+    {
+        ConsoleReporter::ReportRuns(runs);
+        for (const Run& r : runs)
+            if (!r.error_occurred)
+                m_times[r.benchmark_name()] = r.GetAdjustedRealTime();
+    }
+    double time(const std::string& name) const
+    {
+        auto it = m_times.find(name);
+        return it == m_times.end() ? 0 : it->second;
+    }
+
+private:
+    std::map<std::string, double> m_times;
+};
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    benchmark::Initialize(&argc, argv);
+    wave();
+    text();
+    RatioReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+
+    struct Ratio {
+        const char* name;
+        const char* base;
+        double target;
+    };
+    const Ratio ratios[] = {{"PerCycleValueRms", "PlainPass", 3.0},
+                            {"PerCycleTimingFrequency", "PlainPass", 0},
+                            {"ParseEscape", "PlainScan", 0}};
+    std::printf("\n%-26s %-12s %8s %s\n", "case", "baseline", "ratio", "target");
+    for (const Ratio& r : ratios) {
+        const double t = reporter.time(r.name);
+        const double b = reporter.time(r.base);
+        if (t <= 0 || b <= 0)
+            continue;
+        char target[32] = "-";
+        if (r.target > 0)
+            std::snprintf(target, sizeof target, "<= %.1f %s", r.target,
+                          t / b <= r.target ? "met" : "MISSED");
+        std::printf("%-26s %-12s %8.2f %s\n", r.name, r.base, t / b, target);
+    }
+    return 0;
+}

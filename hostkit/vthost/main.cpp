@@ -1,0 +1,280 @@
+// vthost: the command-line stand-in host. Loads the dialog module, lists its
+// script functions and calls them with JSON arguments.
+
+#include "engine.h"
+#include "jsonvalues.h"
+#include "kitsupport.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QStringList>
+
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+
+namespace {
+
+enum ExitCode { ExitOk = 0, ExitUsage = 2, ExitCall = 3, ExitModule = 4, ExitDialog = 5 };
+
+const char* const usageText =
+    "usage: vthost [options] list [--json]\n"
+    "       vthost [options] call NAME [ARG ...]\n"
+    "       vthost [options] run FILE.json\n"
+    "\n"
+    "ARG is JSON, or @FILE holding JSON: an array of strings is a string array,\n"
+    "an array of numbers a real vector, {\"values\": [...], \"x\": [...], \"units\": \"\",\n"
+    "\"xUnits\": \"\"} a waveform. Each result is printed as one JSON line.\n"
+    "\n"
+    "options (anywhere on the line):\n"
+    "  --module PATH      load this module instead of the one built beside vthost\n"
+    "  --config-dir DIR   keep options, preferences and window sizes in DIR\n"
+    "  --answer X         answer the dialogs a call opens: accept, cancel or a\n"
+    "                     JSON file of steps\n"
+    "  --json             (list) print the functions as JSON\n";
+
+struct Options {
+    QStringList words;
+    QString module;
+    QString configDir;
+    QString answer;
+    bool json = false;
+    bool help = false;
+};
+
+bool parseOptions(int argc, char** argv, Options* o, QString* error)
+{
+    for (int i = 1; i < argc; ++i) {
+        const QString word = QString::fromLocal8Bit(argv[i]);
+        if (!word.startsWith(QLatin1String("--"))) {
+            o->words << word;
+            continue;
+        }
+        auto value = [&](QString* into) {
+            if (i + 1 >= argc) {
+                *error = word + QStringLiteral(" needs a value");
+                return false;
+            }
+            *into = QString::fromLocal8Bit(argv[++i]);
+            return true;
+        };
+        if (word == QLatin1String("--module")) {
+            if (!value(&o->module))
+                return false;
+        } else if (word == QLatin1String("--config-dir")) {
+            if (!value(&o->configDir))
+                return false;
+        } else if (word == QLatin1String("--answer")) {
+            if (!value(&o->answer))
+                return false;
+        } else if (word == QLatin1String("--json")) {
+            o->json = true;
+        } else if (word == QLatin1String("--help")) {
+            o->help = true;
+        } else {
+            *error = QStringLiteral("unknown option ") + word;
+            return false;
+        }
+    }
+    return true;
+}
+
+void printLine(const QByteArray& line)
+{
+    std::fwrite(line.constData(), 1, std::size_t(line.size()), stdout);
+    std::fputc('\n', stdout);
+    std::fflush(stdout);
+}
+
+void printError(const QString& text)
+{
+    std::fprintf(stderr, "vthost: %s\n", text.toLocal8Bit().constData());
+}
+
+QString typesOf(const FunctionDecl* f)
+{
+    QStringList types;
+    for (int i = 0; i < f->maxArgs && i < udf::kMaxArgs; ++i)
+        types << QString::number(f->argTypes[i]) + (f->argFlags[i] == 1 ? "*" : "");
+    return types.isEmpty() ? QStringLiteral("-") : types.join(',');
+}
+
+int list(const vtkit::Engine& engine, bool json)
+{
+    if (!json) {
+        for (const FunctionDecl* f : engine.functions())
+            printLine(QStringLiteral("%1 %2 %3 %4 %5")
+                          .arg(QString::fromLatin1(f->name))
+                          .arg(f->minArgs)
+                          .arg(f->maxArgs)
+                          .arg(f->isDialogFactory ? "factory" : "direct")
+                          .arg(typesOf(f))
+                          .toUtf8());
+        return ExitOk;
+    }
+    QJsonArray all;
+    for (const FunctionDecl* f : engine.functions()) {
+        QJsonArray types;
+        QJsonArray flags;
+        for (int i = 0; i < f->maxArgs && i < udf::kMaxArgs; ++i) {
+            types.append(int(f->argTypes[i]));
+            flags.append(int(f->argFlags[i]));
+        }
+        all.append(QJsonObject{{"name", QString::fromLatin1(f->name)},
+                               {"min", f->minArgs},
+                               {"max", f->maxArgs},
+                               {"factory", f->isDialogFactory != 0},
+                               {"argTypes", types},
+                               {"argFlags", flags}});
+    }
+    printLine(QJsonDocument(all).toJson(QJsonDocument::Compact));
+    return ExitOk;
+}
+
+int exitCodeOf(const vtkit::CallResult& r)
+{
+    switch (r.status) {
+    case vtkit::CallResult::Status::Ok:
+        return ExitOk;
+    case vtkit::CallResult::Status::UnknownFunction:
+    case vtkit::CallResult::Status::BadArgCount:
+    case vtkit::CallResult::Status::BadArgKind:
+        return ExitCall;
+    case vtkit::CallResult::Status::Failed:
+        return ExitDialog;
+    }
+    return ExitCall;
+}
+
+int callOne(vtkit::Engine& engine, const QString& name, const std::vector<vtkit::ScriptValue>& args)
+{
+    const vtkit::CallResult r = engine.call(name.toStdString(), args);
+    if (r.status != vtkit::CallResult::Status::Ok)
+        printError(QString::fromStdString(r.error));
+    // A failed call still prints its line, so that `run` keeps one line a call.
+    printLine(r.status == vtkit::CallResult::Status::Ok ? vtkit::resultToJson(r) : "null");
+    return exitCodeOf(r);
+}
+
+int call(vtkit::Engine& engine, const QStringList& words)
+{
+    if (words.size() < 2) {
+        printError(QStringLiteral("call needs a function name"));
+        return ExitUsage;
+    }
+    std::vector<vtkit::ScriptValue> args;
+    for (int i = 2; i < words.size(); ++i) {
+        vtkit::ScriptValue v;
+        QString error;
+        if (!vtkit::valueFromArgument(words[i], &v, &error)) {
+            printError(QStringLiteral("argument %1: %2").arg(i - 1).arg(error));
+            return ExitUsage;
+        }
+        args.push_back(std::move(v));
+    }
+    return callOne(engine, words[1], args);
+}
+
+int run(vtkit::Engine& engine, const QStringList& words)
+{
+    if (words.size() != 2) {
+        printError(QStringLiteral("run needs one file"));
+        return ExitUsage;
+    }
+    QFile file(words[1]);
+    if (!file.open(QIODevice::ReadOnly)) {
+        printError(QStringLiteral("cannot read %1: %2").arg(words[1], file.errorString()));
+        return ExitUsage;
+    }
+    QJsonParseError parseError;
+    const QJsonDocument doc = QJsonDocument::fromJson(file.readAll(), &parseError);
+    if (parseError.error != QJsonParseError::NoError || !doc.isArray()) {
+        printError(QStringLiteral("%1 is not a JSON array of calls").arg(words[1]));
+        return ExitUsage;
+    }
+    // Check every entry first, so that a typo doesn't leave half a run done.
+    struct Call {
+        QString name;
+        std::vector<vtkit::ScriptValue> args;
+    };
+    std::vector<Call> calls;
+    const QJsonArray entries = doc.array();
+    for (int i = 0; i < entries.size(); ++i) {
+        const QJsonObject o = entries[i].toObject();
+        if (!o.value("call").isString() || (o.contains("args") && !o.value("args").isArray())) {
+            printError(QStringLiteral("entry %1: needs {\"call\": NAME, \"args\": [...]}").arg(i + 1));
+            return ExitUsage;
+        }
+        Call c{o.value("call").toString(), {}};
+        for (const QJsonValue& a : o.value("args").toArray()) {
+            vtkit::ScriptValue v;
+            QString error;
+            if (!vtkit::valueFromJson(a, &v, &error)) {
+                printError(QStringLiteral("entry %1: %2").arg(i + 1).arg(error));
+                return ExitUsage;
+            }
+            c.args.push_back(std::move(v));
+        }
+        calls.push_back(std::move(c));
+    }
+    int worst = ExitOk;
+    for (const Call& c : calls)
+        worst = std::max(worst, callOne(engine, c.name, c.args));
+    return worst;
+}
+
+bool hasDisplay()
+{
+    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    Options options;
+    QString error;
+    if (!parseOptions(argc, argv, &options, &error)) {
+        printError(error);
+        std::fputs(usageText, stderr);
+        return ExitUsage;
+    }
+    if (options.help) {
+        std::fputs(usageText, stdout);
+        return ExitOk;
+    }
+    const QString command = options.words.value(0);
+    if (command != QLatin1String("list") && command != QLatin1String("call")
+        && command != QLatin1String("run")) {
+        if (!command.isEmpty())
+            printError(QStringLiteral("unknown command ") + command);
+        std::fputs(usageText, stderr);
+        return ExitUsage;
+    }
+    if (!options.configDir.isEmpty())
+        vtkit::setConfigDir(options.configDir);
+
+    // Dialogs need a GUI application; without a display they are drawn
+    // offscreen and must be answered by a script.
+    if (!hasDisplay() && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+
+    vtkit::Engine engine;
+    const std::string modulePath = options.module.isEmpty() ? vtkit::Engine::defaultModulePath()
+                                                             : options.module.toStdString();
+    std::string loadError;
+    if (!engine.load(modulePath, &loadError)) {
+        printError(QString::fromStdString(loadError));
+        return ExitModule;
+    }
+
+    if (command == QLatin1String("list"))
+        return list(engine, options.json);
+    if (command == QLatin1String("call"))
+        return call(engine, options.words);
+    return run(engine, options.words);
+}

@@ -1,0 +1,11 @@
+#!/usr/bin/env bash
+# Release build of the benchmarks. Prints Google Benchmark's table, then each
+# case as a ratio against its baseline measured in the same run.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+. scripts/deps.sh
+vt_install_deps libbenchmark-dev
+
+cmake -S . -B build-bench -DCMAKE_BUILD_TYPE=Release -DVT_BUILD_TESTS=OFF -DVT_BUILD_BENCH=ON
+cmake --build build-bench -j"$(nproc)" --target vtbench vtdialogs
+QT_QPA_PLATFORM=offscreen build-bench/bin/vtbench "$@"
