@@ -1,0 +1,230 @@
+// Draws the library's image resources into the directory given as the only
+// argument. Shapes only, no fonts, so the pictures don't depend on the
+// machine that draws them.
+#include <QColor>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPolygonF>
+#include <QtMath>
+
+#include <cstdio>
+#include <functional>
+
+namespace {
+
+QColor ink()
+{
+    return QColor(40, 40, 40);
+}
+
+QImage canvas(int size)
+{
+    QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    return image;
+}
+
+void setUp(QPainter& p)
+{
+    p.setRenderHint(QPainter::Antialiasing, true);
+}
+
+void drawUpArrow(QPainter& p, int size)
+{
+    const qreal s = size;
+    p.setPen(Qt::NoPen);
+    p.setBrush(ink());
+    p.drawPolygon(QPolygonF({QPointF(s * 0.5, s * 0.25), QPointF(s * 0.88, s * 0.72),
+                             QPointF(s * 0.12, s * 0.72)}));
+}
+
+void drawDownArrow(QPainter& p, int size)
+{
+    const qreal s = size;
+    p.setPen(Qt::NoPen);
+    p.setBrush(ink());
+    p.drawPolygon(QPolygonF({QPointF(s * 0.12, s * 0.28), QPointF(s * 0.88, s * 0.28),
+                             QPointF(s * 0.5, s * 0.75)}));
+}
+
+// A logic edge: low, a vertical transition with an arrow head, high. On
+// whole pixels so that the 16 pixel picture stays crisp.
+void drawEdge(QPainter& p, int size, bool rising)
+{
+    const qreal s = size;
+    const QColor blue(20, 90, 200);
+    const qreal low = qRound(s * 0.81), high = qRound(s * 0.19), mid = qRound(s * 0.5);
+    QPen pen(blue, 2.0);
+    pen.setJoinStyle(Qt::MiterJoin);
+    pen.setCapStyle(Qt::FlatCap);
+    p.setPen(pen);
+    p.setBrush(Qt::NoBrush);
+    const qreal before = rising ? low : high;
+    const qreal after = rising ? high : low;
+    p.drawPolyline(QPolygonF({QPointF(0, before), QPointF(mid, before), QPointF(mid, after),
+                              QPointF(s, after)}));
+    p.setPen(Qt::NoPen);
+    p.setBrush(blue);
+    const qreal tip = rising ? s * 0.28 : s * 0.72;
+    const qreal base = rising ? s * 0.56 : s * 0.44;
+    p.drawPolygon(QPolygonF({QPointF(mid, tip), QPointF(mid - s * 0.25, base),
+                             QPointF(mid + s * 0.25, base)}));
+}
+
+// A broad arrow pointing left or right.
+void drawShift(QPainter& p, int size, bool left)
+{
+    const qreal s = size;
+    QPolygonF arrow({QPointF(s * 0.08, s * 0.5), QPointF(s * 0.48, s * 0.14), QPointF(s * 0.48, s * 0.34),
+                     QPointF(s * 0.92, s * 0.34), QPointF(s * 0.92, s * 0.66), QPointF(s * 0.48, s * 0.66),
+                     QPointF(s * 0.48, s * 0.86)});
+    if (!left) {
+        for (QPointF& point : arrow)
+            point.setX(s - point.x());
+    }
+    p.setPen(QPen(QColor(20, 70, 150), 1.2));
+    p.setBrush(QColor(70, 130, 220));
+    p.drawPolygon(arrow);
+}
+
+void drawStop(QPainter& p, int size)
+{
+    const qreal s = size;
+    const qreal r = s * 0.46;
+    QPolygonF octagon;
+    for (int i = 0; i < 8; ++i) {
+        const qreal angle = qDegreesToRadians(22.5 + 45.0 * i);
+        octagon << QPointF(s * 0.5 + r * qCos(angle), s * 0.5 + r * qSin(angle));
+    }
+    p.setPen(QPen(QColor(130, 0, 0), 1.0));
+    p.setBrush(QColor(210, 30, 30));
+    p.drawPolygon(octagon);
+    p.setPen(Qt::NoPen);
+    p.setBrush(Qt::white);
+    p.drawRoundedRect(QRectF(s * 0.22, s * 0.42, s * 0.56, s * 0.16), s * 0.03, s * 0.03);
+}
+
+// A gear: a toothed wheel with a hole.
+void drawOptions(QPainter& p, int size)
+{
+    const qreal s = size;
+    const QPointF c(s * 0.5, s * 0.5);
+    const int teeth = 8;
+    const qreal outer = s * 0.46, inner = s * 0.34;
+    QPainterPath gear;
+    for (int i = 0; i < teeth * 4; ++i) {
+        const qreal angle = qDegreesToRadians(360.0 * i / (teeth * 4));
+        const qreal radius = (i % 4 == 1 || i % 4 == 2) ? outer : inner;
+        const QPointF point(c.x() + radius * qCos(angle), c.y() + radius * qSin(angle));
+        if (i == 0)
+            gear.moveTo(point);
+        else
+            gear.lineTo(point);
+    }
+    gear.closeSubpath();
+    gear.addEllipse(c, s * 0.13, s * 0.13);
+    gear.setFillRule(Qt::OddEvenFill);
+    p.setPen(QPen(QColor(60, 60, 70), 1.0));
+    p.setBrush(QColor(150, 155, 165));
+    p.drawPath(gear);
+}
+
+// Message box pictures, 32 pixels as Qt's own.
+void drawWarning(QPainter& p, int size)
+{
+    const qreal s = size;
+    p.setPen(QPen(QColor(150, 100, 0), 1.2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    p.setBrush(QColor(250, 200, 40));
+    p.drawPolygon(QPolygonF({QPointF(s * 0.5, s * 0.06), QPointF(s * 0.96, s * 0.9),
+                             QPointF(s * 0.04, s * 0.9)}));
+    p.setPen(Qt::NoPen);
+    p.setBrush(ink());
+    QPolygonF bar({QPointF(s * 0.45, s * 0.32), QPointF(s * 0.55, s * 0.32), QPointF(s * 0.53, s * 0.64),
+                   QPointF(s * 0.47, s * 0.64)});
+    p.drawPolygon(bar);
+    p.drawEllipse(QPointF(s * 0.5, s * 0.76), s * 0.055, s * 0.055);
+}
+
+void drawDisc(QPainter& p, int size, const QColor& fill, const QColor& rim)
+{
+    const qreal s = size;
+    p.setPen(QPen(rim, 1.2));
+    p.setBrush(fill);
+    p.drawEllipse(QPointF(s * 0.5, s * 0.5), s * 0.45, s * 0.45);
+}
+
+void drawQuestion(QPainter& p, int size)
+{
+    const qreal s = size;
+    drawDisc(p, size, QColor(60, 120, 210), QColor(30, 70, 150));
+    QPen pen(Qt::white, s * 0.11, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    p.setPen(pen);
+    p.setBrush(Qt::NoBrush);
+    QPainterPath hook;
+    const QRectF arc(s * 0.35, s * 0.2, s * 0.3, s * 0.28);
+    hook.arcMoveTo(arc, 160);
+    hook.arcTo(arc, 160, -250);
+    hook.lineTo(s * 0.5, s * 0.58);
+    p.drawPath(hook);
+    p.setPen(Qt::NoPen);
+    p.setBrush(Qt::white);
+    p.drawEllipse(QPointF(s * 0.5, s * 0.76), s * 0.065, s * 0.065);
+}
+
+void drawInfo(QPainter& p, int size)
+{
+    const qreal s = size;
+    drawDisc(p, size, QColor(60, 120, 210), QColor(30, 70, 150));
+    p.setPen(Qt::NoPen);
+    p.setBrush(Qt::white);
+    p.drawEllipse(QPointF(s * 0.5, s * 0.27), s * 0.07, s * 0.07);
+    p.drawRoundedRect(QRectF(s * 0.44, s * 0.42, s * 0.12, s * 0.38), s * 0.03, s * 0.03);
+}
+
+struct Picture {
+    const char* file;
+    int size;
+    std::function<void(QPainter&, int)> draw;
+};
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QGuiApplication app(argc, argv);
+    if (argc != 2) {
+        std::fprintf(stderr, "usage: vtimagegen DIRECTORY\n");
+        return 2;
+    }
+    const QString directory = QString::fromLocal8Bit(argv[1]);
+    const Picture pictures[] = {
+        {"16x16_uparrow_transparent_bg.png", 16, drawUpArrow},
+        {"16x16_downarrow_transparent_bg.png", 16, drawDownArrow},
+        {"16x16_rising_edge_no_frame.png", 16, [](QPainter& p, int s) { drawEdge(p, s, true); }},
+        {"16x16_falling_edge_no_frame.png", 16, [](QPainter& p, int s) { drawEdge(p, s, false); }},
+        {"shift_left_32.png", 32, [](QPainter& p, int s) { drawShift(p, s, true); }},
+        {"shift_right_32.png", 32, [](QPainter& p, int s) { drawShift(p, s, false); }},
+        {"stop.png", 32, drawStop},
+        {"options.png", 32, drawOptions},
+        {"qmessagebox-warn_transparent_bg.png", 32, drawWarning},
+        {"qmessagebox-quest_transparent_bg.png", 32, drawQuestion},
+        {"qmessagebox-info_transparent_bg.png", 32, drawInfo},
+    };
+    int failures = 0;
+    for (const Picture& picture : pictures) {
+        QImage image = canvas(picture.size);
+        {
+            QPainter painter(&image);
+            setUp(painter);
+            picture.draw(painter, picture.size);
+        }
+        const QString path = directory + QLatin1Char('/') + QString::fromLatin1(picture.file);
+        if (!image.save(path, "PNG")) {
+            std::fprintf(stderr, "vtimagegen: cannot write %s\n", qPrintable(path));
+            ++failures;
+        }
+    }
+    return failures ? 1 : 0;
+}
