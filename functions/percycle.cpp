@@ -51,15 +51,26 @@ bool waveformOf(const ArgRecord& arg, Waveform* wave)
     return true;
 }
 
+// Four running pairs instead of one, so the loop isn't bound by the latency
+// of one min/max chain over millions of samples.
 double midpointLevel(const double* y, long long n)
 {
-    double lo = y[0];
-    double hi = y[0];
-    for (long long i = 1; i < n; ++i) {
-        lo = std::min(lo, y[i]);
-        hi = std::max(hi, y[i]);
+    double lo[4] = {y[0], y[0], y[0], y[0]};
+    double hi[4] = {y[0], y[0], y[0], y[0]};
+    long long i = 1;
+    for (; i + 4 <= n; i += 4) {
+        for (int k = 0; k < 4; ++k) {
+            lo[k] = std::min(lo[k], y[i + k]);
+            hi[k] = std::max(hi[k], y[i + k]);
+        }
     }
-    return (hi + lo) * 0.5;
+    for (; i < n; ++i) {
+        lo[0] = std::min(lo[0], y[i]);
+        hi[0] = std::max(hi[0], y[i]);
+    }
+    const double low = std::min(std::min(lo[0], lo[1]), std::min(lo[2], lo[3]));
+    const double high = std::max(std::max(hi[0], hi[1]), std::max(hi[2], hi[3]));
+    return (high + low) * 0.5;
 }
 
 void notify(UserFunctionInterface* ufi)
@@ -171,23 +182,39 @@ double statistic(const Waveform& w, double a, double b, int which)
         }
         return which == Minimum ? lo : which == Maximum ? hi : hi - lo;
     }
-    case Mean:
-    case Rms: {
+    case Mean: {
+        // Trapezoids from (a, ya) through the samples to (b, yb).
         double sum = 0;
         double px = a;
         double py = ya;
-        auto piece = [&](double x, double y) {
-            if (which == Mean)
-                sum += (y + py) * 0.5 * (x - px);
-            else // exact integral of the square of the line between the points
-                sum += ((y * y + py * py + y * py) / 3) * (x - px);
-            px = x;
-            py = y;
+        for (long long i = ia + 1; i <= ib; ++i) {
+            sum += (w.y[i] + py) * 0.5 * (w.x[i] - px);
+            px = w.x[i];
+            py = w.y[i];
+        }
+        sum += (yb + py) * 0.5 * (b - px);
+        return sum / (b - a);
+    }
+    case Rms: {
+        // The exact integral of the square of each straight piece. The
+        // common factor 1/3 is taken out, and two partial sums keep the
+        // loop from waiting on one addition chain.
+        auto piece = [](double x0, double y0, double x1, double y1) {
+            return (y1 * y1 + y0 * y0 + y1 * y0) * (x1 - x0);
         };
-        for (long long i = ia + 1; i <= ib; ++i)
-            piece(w.x[i], w.y[i]);
-        piece(b, yb);
-        return which == Mean ? sum / (b - a) : std::sqrt(sum / (b - a));
+        const long long first = ia + 1;
+        if (first > ib)
+            return std::sqrt(piece(a, ya, b, yb) / 3 / (b - a));
+        double sums[2] = {piece(a, ya, w.x[first], w.y[first]), 0};
+        long long i = first + 1;
+        for (; i + 1 <= ib; i += 2) {
+            sums[0] += piece(w.x[i - 1], w.y[i - 1], w.x[i], w.y[i]);
+            sums[1] += piece(w.x[i], w.y[i], w.x[i + 1], w.y[i + 1]);
+        }
+        for (; i <= ib; ++i)
+            sums[0] += piece(w.x[i - 1], w.y[i - 1], w.x[i], w.y[i]);
+        const double sum = sums[0] + sums[1] + piece(w.x[ib], w.y[ib], b, yb);
+        return std::sqrt(sum / 3 / (b - a));
     }
     default:
         return 0;
@@ -291,10 +318,14 @@ void perCycleValue(UserFunctionInterface* ufi)
     Waveform wave;
     if (!waveformOf(ufi->args[0], &wave))
         return;
-    for (long long i = 1; i < wave.n; ++i) {
-        if (!(wave.x[i] > wave.x[0]))
-            return;
-    }
+    // Each x against the first one only. No early exit: the whole array is
+    // read anyway on the common path, and this way the loop vectorises.
+    const double x0 = wave.x[0];
+    long long notAfterFirst = 0;
+    for (long long i = 1; i < wave.n; ++i)
+        notAfterFirst += !(wave.x[i] > x0);
+    if (notAfterFirst)
+        return;
 
     bool smooth = false;
     if (!callargs::present(ufi, 3)) {
