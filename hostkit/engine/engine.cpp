@@ -1,5 +1,6 @@
 #include "engine.h"
 
+#include "dialogs.h"
 #include "hostsupport.h"
 
 #include <QDialog>
@@ -234,6 +235,7 @@ struct Engine::Private {
 Engine::Engine() : d(new Private)
 {
     d->hostFunctions["XfromY"] = &xFromY;
+    d->dialogRunner = &runBoundDialog;
 }
 
 // The module stays loaded: it has no unload entry point, and its records are

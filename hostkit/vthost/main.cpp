@@ -1,17 +1,23 @@
 // vthost: the command-line stand-in host. Loads the dialog module, lists its
 // script functions and calls them with JSON arguments.
 
+#include "dialogs.h"
 #include "engine.h"
 #include "jsonvalues.h"
 #include "kitsupport.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QStringList>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -149,9 +155,32 @@ int exitCodeOf(const vtkit::CallResult& r)
     return ExitCall;
 }
 
-int callOne(vtkit::Engine& engine, const QString& name, const std::vector<vtkit::ScriptValue>& args)
+// How the dialogs a call opens are answered: by a script, by a person at
+// the display, or not at all when there is no display.
+struct Answering {
+    bool scripted = false;
+    bool headless = false;
+    vtkit::AnswerScript script;
+};
+
+vtkit::CallResult runCall(vtkit::Engine& engine, const Answering& answering, const QString& name,
+                          const std::vector<vtkit::ScriptValue>& args)
 {
-    const vtkit::CallResult r = engine.call(name.toStdString(), args);
+    if (!answering.scripted && !answering.headless)
+        return engine.call(name.toStdString(), args);
+    vtkit::DialogDriver driver(answering.script, [](const QByteArray& line) {
+        std::fwrite(line.constData(), 1, std::size_t(line.size()), stderr);
+        std::fputc('\n', stderr);
+        std::fflush(stderr);
+    });
+    driver.setFailOnDialog(!answering.scripted);
+    return driver.call(engine, name.toStdString(), args);
+}
+
+int callOne(vtkit::Engine& engine, const Answering& answering, const QString& name,
+            const std::vector<vtkit::ScriptValue>& args)
+{
+    const vtkit::CallResult r = runCall(engine, answering, name, args);
     if (r.status != vtkit::CallResult::Status::Ok)
         printError(QString::fromStdString(r.error));
     // A failed call still prints its line, so that `run` keeps one line a call.
@@ -159,7 +188,7 @@ int callOne(vtkit::Engine& engine, const QString& name, const std::vector<vtkit:
     return exitCodeOf(r);
 }
 
-int call(vtkit::Engine& engine, const QStringList& words)
+int call(vtkit::Engine& engine, const Answering& answering, const QStringList& words)
 {
     if (words.size() < 2) {
         printError(QStringLiteral("call needs a function name"));
@@ -175,10 +204,10 @@ int call(vtkit::Engine& engine, const QStringList& words)
         }
         args.push_back(std::move(v));
     }
-    return callOne(engine, words[1], args);
+    return callOne(engine, answering, words[1], args);
 }
 
-int run(vtkit::Engine& engine, const QStringList& words)
+int run(vtkit::Engine& engine, const Answering& answering, const QStringList& words)
 {
     if (words.size() != 2) {
         printError(QStringLiteral("run needs one file"));
@@ -222,8 +251,28 @@ int run(vtkit::Engine& engine, const QStringList& words)
     }
     int worst = ExitOk;
     for (const Call& c : calls)
-        worst = std::max(worst, callOne(engine, c.name, c.args));
+        worst = std::max(worst, callOne(engine, answering, c.name, c.args));
     return worst;
+}
+
+// The offscreen platform warns about every window it can't size by hints;
+// that says nothing about the call, so keep it off the user's terminal.
+void quietOffscreenNoise(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    if (text.contains(QLatin1String("does not support propagateSizeHints")))
+        return;
+    std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, text)));
+}
+
+// Qt warns on every start without a runtime directory; give it a private one.
+void ensureRuntimeDir()
+{
+    if (qEnvironmentVariableIsSet("XDG_RUNTIME_DIR"))
+        return;
+    const QByteArray dir = QDir::tempPath().toLocal8Bit() + "/vthost-runtime-"
+                           + QByteArray::number(uint(getuid()));
+    if (mkdir(dir.constData(), 0700) == 0 || errno == EEXIST)
+        qputenv("XDG_RUNTIME_DIR", dir);
 }
 
 bool hasDisplay()
@@ -261,7 +310,20 @@ int main(int argc, char** argv)
     // offscreen and must be answered by a script.
     if (!hasDisplay() && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    ensureRuntimeDir();
+    qInstallMessageHandler(&quietOffscreenNoise);
     QApplication app(argc, argv);
+
+    Answering answering;
+    answering.headless = QGuiApplication::platformName() == QLatin1String("offscreen")
+                         || QGuiApplication::platformName() == QLatin1String("minimal");
+    if (!options.answer.isEmpty()) {
+        answering.scripted = true;
+        if (!vtkit::AnswerScript::fromArgument(options.answer, &answering.script, &error)) {
+            printError(error);
+            return ExitUsage;
+        }
+    }
 
     vtkit::Engine engine;
     const std::string modulePath = options.module.isEmpty() ? vtkit::Engine::defaultModulePath()
@@ -275,6 +337,6 @@ int main(int argc, char** argv)
     if (command == QLatin1String("list"))
         return list(engine, options.json);
     if (command == QLatin1String("call"))
-        return call(engine, options.words);
-    return run(engine, options.words);
+        return call(engine, answering, options.words);
+    return run(engine, answering, options.words);
 }

@@ -1,0 +1,1303 @@
+// Answer scripts: steps that drive the dialogs of a call headlessly, with
+// real key and mouse events where a user would use them, so that the
+// dialogs' own slots run as they would for a person.
+#include "dialogs.h"
+
+#include "hostwidgets.h"
+#include "kitsupport.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QColorDialog>
+#include <QComboBox>
+#include <QContextMenuEvent>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QGroupBox>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QKeySequence>
+#include <QLayout>
+#include <QLineEdit>
+#include <QListView>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPixmap>
+#include <QPlainTextEdit>
+#include <QPointer>
+#include <QRadioButton>
+#include <QStyle>
+#include <QStyleOptionButton>
+#include <QTableView>
+#include <QTest>
+#include <QTextEdit>
+#include <QTimer>
+#include <QWindow>
+
+#include <cstdio>
+#include <cstring>
+
+namespace vtkit {
+
+namespace {
+
+constexpr int kTickMs = 20;
+constexpr qint64 kWaitMs = 5000;
+
+// ------------------------------------------------------------ script rules
+
+// Value types: 'n' non-empty string, 's' any string, 'b' bool, 'i' integer
+// >= 0, 'a' non-empty array of strings, 'k' key sequence, 'c' colour or
+// null, 't' the literal true.
+struct FieldRule {
+    const char* key;
+    char type;
+    bool required;
+};
+
+struct StepRule {
+    const char* action;
+    char type;
+    FieldRule fields[3];
+};
+
+constexpr StepRule kRules[] = {
+    {"wait", 'n', {}},
+    {"set", 'n', {{"text", 's', true}}},
+    {"click", 'n', {}},
+    {"check", 'n', {{"on", 'b', false}}},
+    {"choose", 'n', {{"text", 's', false}, {"index", 'i', false}, {"texts", 'a', false}}},
+    {"radio", 'n', {{"id", 'i', true}}},
+    {"cell", 'n', {{"row", 'i', true}, {"column", 'i', true}, {"text", 's', true}}},
+    {"key", 'n', {{"keys", 'k', true}}},
+    {"menu", 'n', {{"action", 's', true}}},
+    {"message", 'n', {}},
+    {"file", 's', {}},
+    {"color", 'c', {}},
+    {"screenshot", 'n', {}},
+    {"accept", 't', {}},
+    {"cancel", 't', {}},
+};
+
+QString quoted(const QString& s)
+{
+    return QLatin1Char('"') + s + QLatin1Char('"');
+}
+
+const StepRule* ruleOf(const QJsonObject& step)
+{
+    for (const StepRule& r : kRules)
+        if (step.contains(QLatin1String(r.action)))
+            return &r;
+    return nullptr;
+}
+
+bool valueFits(const QJsonValue& v, char type)
+{
+    switch (type) {
+    case 'n': return v.isString() && !v.toString().isEmpty();
+    case 's': return v.isString();
+    case 'b': return v.isBool();
+    case 'i': return v.isDouble() && v.toDouble() >= 0 && v.toDouble() == v.toInt();
+    case 't': return v.isBool() && v.toBool();
+    case 'k': return v.isString() && !QKeySequence::fromString(v.toString()).isEmpty();
+    case 'c': return v.isNull() || (v.isString() && QColor::isValidColor(v.toString()));
+    case 'a': {
+        const QJsonArray a = v.toArray();
+        if (!v.isArray() || a.isEmpty())
+            return false;
+        for (const QJsonValue& e : a)
+            if (!e.isString())
+                return false;
+        return true;
+    }
+    }
+    return false;
+}
+
+const char* typeWords(char type)
+{
+    switch (type) {
+    case 'n': return "a non-empty string";
+    case 's': return "a string";
+    case 'b': return "true or false";
+    case 'i': return "a whole number >= 0";
+    case 't': return "true";
+    case 'k': return "a key sequence such as \"Ctrl+A\"";
+    case 'c': return "a colour \"#rrggbb\" or null";
+    case 'a': return "a non-empty array of strings";
+    }
+    return "?";
+}
+
+QString checkStep(const QJsonValue& value, int number)
+{
+    const QString at = QStringLiteral("step %1: ").arg(number);
+    if (!value.isObject())
+        return at + QStringLiteral("not an object");
+    const QJsonObject step = value.toObject();
+    const StepRule* rule = nullptr;
+    for (const StepRule& r : kRules) {
+        if (!step.contains(QLatin1String(r.action)))
+            continue;
+        if (rule)
+            return at + QStringLiteral("two actions, \"%1\" and \"%2\"").arg(rule->action, r.action);
+        rule = &r;
+    }
+    if (!rule) {
+        QStringList names;
+        for (const StepRule& r : kRules)
+            names << QLatin1String(r.action);
+        return at + QStringLiteral("no action (one of %1)").arg(names.join(QStringLiteral(", ")));
+    }
+    if (!valueFits(step.value(QLatin1String(rule->action)), rule->type))
+        return at + QStringLiteral("\"%1\" must be %2").arg(rule->action, typeWords(rule->type));
+    for (auto it = step.begin(); it != step.end(); ++it) {
+        if (it.key() == QLatin1String(rule->action))
+            continue;
+        const FieldRule* field = nullptr;
+        for (const FieldRule& f : rule->fields)
+            if (f.key && it.key() == QLatin1String(f.key))
+                field = &f;
+        if (!field)
+            return at + QStringLiteral("unknown key \"%1\" for \"%2\"").arg(it.key(), rule->action);
+        if (!valueFits(it.value(), field->type))
+            return at + QStringLiteral("\"%1\" must be %2").arg(field->key, typeWords(field->type));
+    }
+    for (const FieldRule& f : rule->fields)
+        if (f.key && f.required && !step.contains(QLatin1String(f.key)))
+            return at + QStringLiteral("\"%1\" needs \"%2\"").arg(rule->action, f.key);
+    if (std::strcmp(rule->action, "choose") == 0) {
+        const int given = int(step.contains(QLatin1String("text")))
+                          + int(step.contains(QLatin1String("index")))
+                          + int(step.contains(QLatin1String("texts")));
+        if (given != 1)
+            return at + QStringLiteral("\"choose\" needs one of \"text\", \"index\" or \"texts\"");
+    }
+    return {};
+}
+
+QString jsonText(const QJsonValue& v)
+{
+    const QByteArray a = QJsonDocument(QJsonArray{v}).toJson(QJsonDocument::Compact);
+    return QString::fromUtf8(a.mid(1, a.size() - 2));
+}
+
+// {"click": "Foo"}: the action first, as it was most likely written.
+QString stepText(const QJsonObject& step)
+{
+    const StepRule* rule = ruleOf(step);
+    QStringList parts;
+    if (rule)
+        parts << quoted(QLatin1String(rule->action)) + QStringLiteral(": ")
+                     + jsonText(step.value(QLatin1String(rule->action)));
+    for (auto it = step.begin(); it != step.end(); ++it)
+        if (!rule || it.key() != QLatin1String(rule->action))
+            parts << quoted(it.key()) + QStringLiteral(": ") + jsonText(it.value());
+    return QLatin1Char('{') + parts.join(QStringLiteral(", ")) + QLatin1Char('}');
+}
+
+// -------------------------------------------------------------- widgets
+
+// A button's text as shown: mnemonic marks gone, "&&" as one "&".
+QString plain(const QString& text)
+{
+    QString out;
+    for (int i = 0; i < text.size(); ++i) {
+        if (text[i] == QLatin1Char('&')) {
+            if (i + 1 < text.size() && text[i + 1] == QLatin1Char('&'))
+                out += text[++i];
+            continue;
+        }
+        out += text[i];
+    }
+    return out;
+}
+
+QString windowName(const QWidget* w)
+{
+    if (!w->objectName().isEmpty())
+        return w->objectName();
+    if (!w->windowTitle().isEmpty())
+        return w->windowTitle();
+    return QLatin1String(w->metaObject()->className());
+}
+
+QString className(const QWidget* w)
+{
+    return QLatin1String(w->metaObject()->className());
+}
+
+QString shownText(const QWidget* w)
+{
+    if (auto* b = qobject_cast<const QAbstractButton*>(w))
+        return plain(b->text());
+    if (auto* g = qobject_cast<const QGroupBox*>(w))
+        return plain(g->title());
+    return {};
+}
+
+QWidget* activeModal()
+{
+    if (QWidget* w = QApplication::activeModalWidget())
+        return w;
+    if (QWindow* window = QGuiApplication::modalWindow()) {
+        const QList<QWidget*> tops = QApplication::topLevelWidgets();
+        for (QWidget* t : tops)
+            if (t->windowHandle() == window && t->isVisible())
+                return t;
+    }
+    return nullptr;
+}
+
+// Key events go where the focus would be; offscreen, only an active window
+// gives its widgets focus.
+void activate(QWidget* dialog)
+{
+    QWidget* window = dialog->window();
+    window->activateWindow();
+    QApplication::setActiveWindow(window);
+}
+
+// Ends an edit as a user does by moving elsewhere, so editingFinished and
+// item delegates see the focus go.
+void leaveField()
+{
+    if (QWidget* focus = QApplication::focusWidget())
+        focus->clearFocus();
+}
+
+// Check boxes and radio buttons only take clicks on their indicator and
+// label, which needn't reach the widget's centre.
+QPoint clickPoint(QAbstractButton* b)
+{
+    const bool check = qobject_cast<QCheckBox*>(b) != nullptr;
+    if (check || qobject_cast<QRadioButton*>(b)) {
+        QStyleOptionButton opt;
+        opt.initFrom(b);
+        opt.text = b->text();
+        const QRect r = b->style()->subElementRect(
+            check ? QStyle::SE_CheckBoxIndicator : QStyle::SE_RadioButtonIndicator, &opt, b);
+        if (r.isValid())
+            return r.center();
+    }
+    return b->rect().center();
+}
+
+void clickButton(QAbstractButton* b)
+{
+    QTest::mouseClick(b, Qt::LeftButton, Qt::NoModifier, clickPoint(b));
+}
+
+// Space on a checkable group box toggles it as a click on its check box.
+void toggleGroup(QGroupBox* g)
+{
+    QTest::keyClick(g, Qt::Key_Space);
+}
+
+// The radio buttons of a plain container in layout order (nested layouts
+// and containers included, not those of a nested RadioGroup), then any
+// outside a layout in child order.
+QList<QRadioButton*> radiosOf(QWidget* container)
+{
+    QList<QRadioButton*> out;
+    std::function<void(QLayout*)> walk = [&](QLayout* layout) {
+        for (int i = 0; i < layout->count(); ++i) {
+            QLayoutItem* item = layout->itemAt(i);
+            if (!item)
+                continue;
+            if (QLayout* inner = item->layout()) {
+                walk(inner);
+            } else if (QWidget* w = item->widget()) {
+                if (auto* rb = qobject_cast<QRadioButton*>(w))
+                    out << rb;
+                else if (!qobject_cast<RadioGroup*>(w) && w->layout())
+                    walk(w->layout());
+            }
+        }
+    };
+    if (container->layout())
+        walk(container->layout());
+    const auto loose = container->findChildren<QRadioButton*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QRadioButton* rb : loose)
+        if (!out.contains(rb))
+            out << rb;
+    return out;
+}
+
+// The widget that takes typed text for w, or null.
+QWidget* textTarget(QWidget* w, bool* oneLine)
+{
+    *oneLine = true;
+    if (auto* s = qobject_cast<Spinner*>(w))
+        return s->lineEdit();
+    if (qobject_cast<QLineEdit*>(w) || qobject_cast<QAbstractSpinBox*>(w))
+        return w;
+    if (auto* c = qobject_cast<QComboBox*>(w))
+        return c->isEditable() ? c->lineEdit() : nullptr;
+    *oneLine = false;
+    if (qobject_cast<QPlainTextEdit*>(w) || qobject_cast<QTextEdit*>(w))
+        return w;
+    *oneLine = true;
+    return w->findChild<QLineEdit*>(QStringLiteral("lineEdit"), Qt::FindDirectChildrenOnly);
+}
+
+void selectAllIn(QWidget* target)
+{
+    if (auto* le = qobject_cast<QLineEdit*>(target))
+        le->selectAll();
+    else if (auto* sb = qobject_cast<QAbstractSpinBox*>(target))
+        sb->selectAll();
+    else if (auto* pt = qobject_cast<QPlainTextEdit*>(target))
+        pt->selectAll();
+    else if (auto* te = qobject_cast<QTextEdit*>(target))
+        te->selectAll();
+}
+
+void typeInto(QWidget* dialog, QWidget* target, const QString& text)
+{
+    activate(dialog);
+    target->setFocus(Qt::TabFocusReason);
+    selectAllIn(target);
+    if (text.isEmpty())
+        QTest::keyClick(target, Qt::Key_Delete);
+    else
+        QTest::keyClicks(target, text);
+}
+
+// A pick from the popup: the index becomes current, then activated.
+void pickInCombo(QComboBox* c, int index)
+{
+    if (index != c->currentIndex())
+        c->setCurrentIndex(index);
+    const QString text = c->itemText(index);
+    QMetaObject::invokeMethod(c, "activated", Qt::DirectConnection, Q_ARG(int, index));
+    const QMetaObject* mo = c->metaObject();
+    if (mo->indexOfSignal("activated(QString)") >= 0)
+        QMetaObject::invokeMethod(c, "activated", Qt::DirectConnection, Q_ARG(QString, text));
+    if (mo->indexOfSignal("textActivated(QString)") >= 0)
+        QMetaObject::invokeMethod(c, "textActivated", Qt::DirectConnection, Q_ARG(QString, text));
+}
+
+QString itemList(const QStringList& items)
+{
+    QStringList shown;
+    for (int i = 0; i < items.size() && i < 8; ++i)
+        shown << quoted(items[i]);
+    if (items.size() > 8)
+        shown << QStringLiteral("...");
+    return shown.isEmpty() ? QStringLiteral("none") : shown.join(QStringLiteral(", "));
+}
+
+QStringList comboItems(const QComboBox* c)
+{
+    QStringList items;
+    for (int i = 0; i < c->count(); ++i)
+        items << c->itemText(i);
+    return items;
+}
+
+QModelIndex listIndex(const QAbstractItemView* v, int row)
+{
+    const int column = qobject_cast<const QListView*>(v)
+                           ? static_cast<const QListView*>(v)->modelColumn() : 0;
+    return v->model() ? v->model()->index(row, column, v->rootIndex()) : QModelIndex();
+}
+
+QStringList viewItems(const QAbstractItemView* v)
+{
+    QStringList items;
+    const int rows = v->model() ? v->model()->rowCount(v->rootIndex()) : 0;
+    for (int r = 0; r < rows; ++r)
+        items << listIndex(v, r).data(Qt::DisplayRole).toString();
+    return items;
+}
+
+// What a step came to: carried out (with the part that may block in a
+// nested event loop left to run once the step is counted), to be tried
+// again on the next tick, or failed.
+struct Outcome {
+    enum Kind { Done, NotYet, Failed };
+    Kind kind = Done;
+    QString why;
+    std::function<void()> action;
+};
+
+Outcome stepDone(std::function<void()> action = {})
+{
+    return {Outcome::Done, {}, std::move(action)};
+}
+
+Outcome stepWaiting(const QString& why)
+{
+    return {Outcome::NotYet, why, {}};
+}
+
+Outcome stepFailed(const QString& why)
+{
+    return {Outcome::Failed, why, {}};
+}
+
+void defaultSink(const QByteArray& line)
+{
+    std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stderr);
+    std::fputc('\n', stderr);
+    std::fflush(stderr);
+}
+
+} // namespace
+
+// ---------------------------------------------------------------- script
+
+AnswerScript::AnswerScript() = default;
+
+AnswerScript AnswerScript::accept()
+{
+    AnswerScript s;
+    s.m_steps.append(QJsonObject{{QStringLiteral("accept"), true}});
+    return s;
+}
+
+AnswerScript AnswerScript::cancel()
+{
+    AnswerScript s;
+    s.m_steps.append(QJsonObject{{QStringLiteral("cancel"), true}});
+    return s;
+}
+
+bool AnswerScript::fromArgument(const QString& argument, AnswerScript* out, QString* error)
+{
+    if (argument == QLatin1String("accept") || argument == QLatin1String("cancel")) {
+        if (out)
+            *out = argument == QLatin1String("accept") ? accept() : cancel();
+        return true;
+    }
+    QFile file(argument);
+    if (!file.open(QIODevice::ReadOnly)) {
+        if (error)
+            *error = QStringLiteral("cannot read answer script %1: %2").arg(quoted(argument), file.errorString());
+        return false;
+    }
+    if (!fromJson(file.readAll(), out, error)) {
+        if (error)
+            *error = argument + QStringLiteral(": ") + *error;
+        return false;
+    }
+    return true;
+}
+
+bool AnswerScript::fromJson(const QByteArray& json, AnswerScript* out, QString* error)
+{
+    QJsonParseError parseError;
+    const QJsonDocument doc = QJsonDocument::fromJson(json, &parseError);
+    QString why;
+    if (parseError.error != QJsonParseError::NoError)
+        why = QStringLiteral("%1 at offset %2").arg(parseError.errorString()).arg(parseError.offset);
+    else if (!doc.isArray())
+        why = QStringLiteral("an answer script is a JSON array of steps");
+    const QJsonArray steps = doc.array();
+    for (int i = 0; why.isEmpty() && i < steps.size(); ++i)
+        why = checkStep(steps[i], i + 1);
+    if (!why.isEmpty()) {
+        if (error)
+            *error = why;
+        return false;
+    }
+    if (out)
+        out->m_steps = steps;
+    return true;
+}
+
+// ---------------------------------------------------------------- driver
+
+struct DialogDriver::Private {
+    AnswerScript script;
+    EventSink sink;
+    bool failOnDialog = false;
+
+    int next = 0;
+    QString failure;
+    bool closing = false;
+    QObject* context = nullptr; // owns the tick timers of one run
+    QElapsedTimer stepClock;    // since the next step became next
+    QElapsedTimer idleClock;    // since the last step, or since a dialog came
+    QPointer<QWidget> seen;     // the modal window of the last tick
+
+    // A context menu asked for and not yet answered.
+    bool menuPending = false;
+    QString menuAction;
+    QString menuStep;
+    QElapsedTimer menuClock;
+
+    void emitLine(const QJsonObject& object)
+    {
+        const QByteArray line = QJsonDocument(object).toJson(QJsonDocument::Compact);
+        if (sink)
+            sink(line);
+        else
+            defaultSink(line);
+    }
+
+    void reportBox(QMessageBox* box, const QJsonValue& button)
+    {
+        emitLine(QJsonObject{{QStringLiteral("messageBox"),
+                              QJsonObject{{QStringLiteral("title"), box->windowTitle()},
+                                          {QStringLiteral("text"), box->text()},
+                                          {QStringLiteral("button"), button}}}});
+    }
+
+    void fail(const QString& why)
+    {
+        if (failure.isEmpty())
+            failure = why;
+        closing = true;
+        closeAll();
+    }
+
+    // Innermost first; a window that refuses to close is hidden, which ends
+    // its exec all the same.
+    void closeAll()
+    {
+        for (int i = 0; i < 100; ++i) {
+            if (QWidget* popup = QApplication::activePopupWidget()) {
+                popup->close();
+                continue;
+            }
+            QPointer<QWidget> w = activeModal();
+            if (!w)
+                break;
+            if (auto* box = qobject_cast<QMessageBox*>(w.data()))
+                reportBox(box, QJsonValue::Null);
+            if (auto* dialog = qobject_cast<QDialog*>(w.data()))
+                dialog->reject();
+            if (w && w->isVisible())
+                w->close();
+            if (w && w->isVisible())
+                w->hide();
+        }
+    }
+
+    void tick();
+    void answerMenu();
+    Outcome perform(const QJsonObject& step, QWidget* dialog);
+    QWidget* find(QWidget* dialog, const QString& name, QString* why) const;
+    Outcome usable(QWidget* w, const QString& name) const;
+
+    Outcome stepSet(QWidget* dialog, QWidget* w, const QString& name, const QString& text);
+    Outcome stepClick(QWidget* w, const QString& name);
+    Outcome stepCheck(QWidget* w, const QString& name, bool on);
+    Outcome stepChoose(QWidget* w, const QString& name, const QJsonObject& step);
+    Outcome stepRadio(QWidget* w, const QString& name, int id);
+    Outcome stepCell(QWidget* dialog, QWidget* w, const QString& name, int row, int column,
+                     const QString& text);
+    Outcome stepKey(QWidget* dialog, QWidget* w, const QString& keys);
+    Outcome stepMenu(QWidget* w, const QString& action);
+    Outcome stepMessage(QWidget* dialog, const QString& button);
+    Outcome stepEnd(QWidget* dialog, bool accept);
+    Outcome selectRows(QAbstractItemView* v, const QString& name, const QStringList& texts);
+};
+
+// By object name; else by shown text of a button or group box; else the
+// dialog itself by its name; else by class name, "Class:N" being the N-th (from 0) of that class in
+// findChildren order, hidden widgets counted. Visible widgets go first
+// among several of one name or text.
+QWidget* DialogDriver::Private::find(QWidget* dialog, const QString& name, QString* why) const
+{
+    const QList<QWidget*> all = dialog->findChildren<QWidget*>();
+    auto pick = [](const QList<QWidget*>& hits) -> QWidget* {
+        for (QWidget* w : hits)
+            if (w->isVisible())
+                return w;
+        return hits.isEmpty() ? nullptr : hits.first();
+    };
+    QList<QWidget*> hits;
+    for (QWidget* w : all)
+        if (w->objectName() == name)
+            hits << w;
+    if (hits.isEmpty())
+        for (QWidget* w : all)
+            if (shownText(w) == name)
+                hits << w;
+    if (QWidget* w = pick(hits))
+        return w;
+    if (dialog->objectName() == name)
+        return dialog;
+
+    QString cls = name;
+    int n = 0;
+    const int colon = name.lastIndexOf(QLatin1Char(':'));
+    if (colon > 0) {
+        bool ok = false;
+        const int v = name.mid(colon + 1).toInt(&ok);
+        if (ok && v >= 0) {
+            cls = name.left(colon);
+            n = v;
+        }
+    }
+    const QByteArray c = cls.toLatin1();
+    for (QWidget* w : all)
+        if (w->inherits(c.constData()) && n-- == 0)
+            return w;
+    *why = QStringLiteral("no widget %1 in dialog %2").arg(quoted(name), quoted(windowName(dialog)));
+    return nullptr;
+}
+
+Outcome DialogDriver::Private::usable(QWidget* w, const QString& name) const
+{
+    if (!w->isVisible())
+        return stepFailed(quoted(name) + QStringLiteral(" is hidden"));
+    if (!w->isEnabled())
+        return stepFailed(quoted(name) + QStringLiteral(" is disabled"));
+    return stepDone();
+}
+
+void DialogDriver::Private::tick()
+{
+    if (!context)
+        return;
+    // Armed first: the step below may block in a nested event loop, where
+    // the next tick must still come.
+    QTimer::singleShot(kTickMs, context, [this] { tick(); });
+    if (closing) {
+        closeAll();
+        return;
+    }
+    if (menuPending) {
+        answerMenu();
+        return;
+    }
+    QWidget* dialog = activeModal();
+    if (!dialog) {
+        seen = nullptr;
+        return;
+    }
+    if (dialog != seen) {
+        // One tick for what a dialog posts to itself as it shows.
+        seen = dialog;
+        idleClock.restart();
+        return;
+    }
+    const QJsonArray& steps = script.steps();
+    if (steps.isEmpty() && failOnDialog) {
+        fail(QStringLiteral("a dialog opened and no answer script was given (use --answer)"));
+        return;
+    }
+    if (next >= steps.size()) {
+        if (idleClock.elapsed() > kWaitMs)
+            fail(QStringLiteral("dialog %1 still open 5 s after the last step").arg(quoted(windowName(dialog))));
+        return;
+    }
+    const QJsonObject step = steps[next].toObject();
+    const QString label = QStringLiteral("step %1 %2: ").arg(next + 1).arg(stepText(step));
+    Outcome o = perform(step, dialog);
+    if (o.kind == Outcome::NotYet) {
+        if (stepClock.elapsed() > kWaitMs)
+            fail(label + o.why);
+        return;
+    }
+    if (o.kind == Outcome::Failed) {
+        fail(label + o.why);
+        return;
+    }
+    ++next;
+    stepClock.restart();
+    idleClock.restart();
+    if (o.action)
+        o.action();
+}
+
+Outcome DialogDriver::Private::perform(const QJsonObject& step, QWidget* dialog)
+{
+    const StepRule* rule = ruleOf(step);
+    if (!rule)
+        return stepFailed(QStringLiteral("not a step"));
+    const QString action = QLatin1String(rule->action);
+    const QJsonValue value = step.value(action);
+    const QString dialogName = quoted(windowName(dialog));
+
+    if (action == QLatin1String("wait")) {
+        const QString name = value.toString();
+        if (dialog->objectName() == name || dialog->windowTitle() == name)
+            return stepDone();
+        return stepWaiting(QStringLiteral("waited 5 s for dialog %1; the active one is %2").arg(quoted(name), dialogName));
+    }
+    if (action == QLatin1String("message"))
+        return stepMessage(dialog, value.toString());
+    if (action == QLatin1String("file")) {
+        QPointer<QFileDialog> fd = qobject_cast<QFileDialog*>(dialog);
+        if (!fd)
+            return stepWaiting(QStringLiteral("waited 5 s for a file dialog; the active one is %1").arg(dialogName));
+        const QString path = value.toString();
+        return stepDone([fd, path] {
+            if (!fd)
+                return;
+            if (path.isEmpty()) {
+                fd->reject();
+                return;
+            }
+            // selectFile leaves a focused name field alone; type the path
+            // there as a user would.
+            if (auto* edit = fd->findChild<QLineEdit*>(QStringLiteral("fileNameEdit")))
+                edit->setText(path);
+            else
+                fd->selectFile(path);
+            static_cast<QDialog*>(fd.data())->accept();
+        });
+    }
+    if (action == QLatin1String("color")) {
+        QPointer<QColorDialog> cd = qobject_cast<QColorDialog*>(dialog);
+        if (!cd)
+            return stepWaiting(QStringLiteral("waited 5 s for a colour dialog; the active one is %1").arg(dialogName));
+        const QString color = value.toString();
+        const bool cancel = value.isNull();
+        return stepDone([cd, color, cancel] {
+            if (!cd)
+                return;
+            if (cancel) {
+                cd->reject();
+                return;
+            }
+            cd->setCurrentColor(QColor(color));
+            static_cast<QDialog*>(cd.data())->accept();
+        });
+    }
+    if (action == QLatin1String("screenshot")) {
+        const QString file = value.toString();
+        QDir().mkpath(QFileInfo(file).absolutePath());
+        if (!dialog->window()->grab().save(file, "PNG"))
+            return stepFailed(QStringLiteral("cannot write %1").arg(quoted(file)));
+        return stepDone();
+    }
+    if (action == QLatin1String("accept") || action == QLatin1String("cancel"))
+        return stepEnd(dialog, action == QLatin1String("accept"));
+
+    const QString name = value.toString();
+    QString why;
+    QWidget* w = find(dialog, name, &why);
+    if (!w)
+        return stepFailed(why);
+    const Outcome u = usable(w, name);
+    if (u.kind == Outcome::Failed)
+        return u;
+    const QString text = step.value(QLatin1String("text")).toString();
+    if (action == QLatin1String("set"))
+        return stepSet(dialog, w, name, text);
+    if (action == QLatin1String("click"))
+        return stepClick(w, name);
+    if (action == QLatin1String("check"))
+        return stepCheck(w, name, step.value(QLatin1String("on")).toBool(true));
+    if (action == QLatin1String("choose"))
+        return stepChoose(w, name, step);
+    if (action == QLatin1String("radio"))
+        return stepRadio(w, name, step.value(QLatin1String("id")).toInt());
+    if (action == QLatin1String("cell"))
+        return stepCell(dialog, w, name, step.value(QLatin1String("row")).toInt(),
+                        step.value(QLatin1String("column")).toInt(), text);
+    if (action == QLatin1String("key"))
+        return stepKey(dialog, w, step.value(QLatin1String("keys")).toString());
+    if (action == QLatin1String("menu"))
+        return stepMenu(w, step.value(QLatin1String("action")).toString());
+    return stepFailed(QStringLiteral("not a step"));
+}
+
+Outcome DialogDriver::Private::stepSet(QWidget* dialog, QWidget* w, const QString& name,
+                                       const QString& text)
+{
+    bool oneLine = true;
+    QPointer<QWidget> target = textTarget(w, &oneLine);
+    if (!target)
+        return stepFailed(QStringLiteral("%1 (%2) takes no typed text").arg(quoted(name), className(w)));
+    if (oneLine && (text.contains(QLatin1Char('\n')) || text.contains(QLatin1Char('\r'))))
+        return stepFailed(quoted(name) + QStringLiteral(" is one line; the text has a line break"));
+    QPointer<QWidget> d(dialog);
+    return stepDone([d, target, text] {
+        if (!d || !target)
+            return;
+        typeInto(d, target, text);
+        leaveField();
+    });
+}
+
+Outcome DialogDriver::Private::stepClick(QWidget* w, const QString& name)
+{
+    if (auto* b = qobject_cast<QAbstractButton*>(w)) {
+        QPointer<QAbstractButton> p(b);
+        return stepDone([p] {
+            if (p)
+                clickButton(p);
+        });
+    }
+    auto* g = qobject_cast<QGroupBox*>(w);
+    if (g && g->isCheckable()) {
+        QPointer<QGroupBox> p(g);
+        return stepDone([p] {
+            if (p)
+                toggleGroup(p);
+        });
+    }
+    return stepFailed(QStringLiteral("%1 (%2) is not a button").arg(quoted(name), className(w)));
+}
+
+Outcome DialogDriver::Private::stepCheck(QWidget* w, const QString& name, bool on)
+{
+    auto* b = qobject_cast<QAbstractButton*>(w);
+    auto* g = qobject_cast<QGroupBox*>(w);
+    const bool checkable = b ? b->isCheckable() : g && g->isCheckable();
+    if (!checkable)
+        return stepFailed(QStringLiteral("%1 (%2) can't be checked").arg(quoted(name), className(w)));
+    const bool checked = b ? b->isChecked() : g->isChecked();
+    if (checked == on)
+        return stepDone();
+    return stepClick(w, name);
+}
+
+Outcome DialogDriver::Private::stepChoose(QWidget* w, const QString& name, const QJsonObject& step)
+{
+    QStringList texts;
+    int index = -1;
+    if (step.contains(QLatin1String("texts"))) {
+        for (const QJsonValue& v : step.value(QLatin1String("texts")).toArray())
+            if (!texts.contains(v.toString()))
+                texts << v.toString();
+    } else if (step.contains(QLatin1String("text"))) {
+        texts << step.value(QLatin1String("text")).toString();
+    } else {
+        index = step.value(QLatin1String("index")).toInt();
+    }
+
+    if (auto* c = qobject_cast<QComboBox*>(w)) {
+        if (texts.size() > 1)
+            return stepFailed(quoted(name) + QStringLiteral(" is a combo box and takes one item"));
+        if (!texts.isEmpty())
+            index = c->findText(texts.first(), Qt::MatchExactly | Qt::MatchCaseSensitive);
+        if (index < 0 || index >= c->count())
+            return stepFailed(QStringLiteral("no item %1 in %2 (items: %3)")
+                              .arg(texts.isEmpty() ? QString::number(index) : quoted(texts.first()),
+                                   quoted(name), itemList(comboItems(c))));
+        QPointer<QComboBox> p(c);
+        return stepDone([p, index] {
+            if (p)
+                pickInCombo(p, index);
+        });
+    }
+    if (auto* v = qobject_cast<QAbstractItemView*>(w)) {
+        if (index >= 0) {
+            const QStringList items = viewItems(v);
+            if (index >= items.size())
+                return stepFailed(QStringLiteral("no row %1 in %2 (%3 rows)").arg(index).arg(quoted(name)).arg(items.size()));
+            texts << items[index];
+        }
+        return selectRows(v, name, texts);
+    }
+    return stepFailed(QStringLiteral("%1 (%2) is neither a combo box nor a list").arg(quoted(name), className(w)));
+}
+
+// As clicks would: the first row plainly, more with Ctrl; in multi
+// selection, where a plain click toggles, only the rows that must change.
+Outcome DialogDriver::Private::selectRows(QAbstractItemView* v, const QString& name,
+                                         const QStringList& texts)
+{
+    const QAbstractItemView::SelectionMode mode = v->selectionMode();
+    if (mode == QAbstractItemView::NoSelection)
+        return stepFailed(quoted(name) + QStringLiteral(" selects nothing"));
+    if (texts.size() > 1 && mode == QAbstractItemView::SingleSelection)
+        return stepFailed(quoted(name) + QStringLiteral(" selects one row only"));
+    const QStringList items = viewItems(v);
+    QList<int> rows;
+    for (const QString& t : texts) {
+        const int row = static_cast<int>(items.indexOf(t));
+        if (row < 0)
+            return stepFailed(QStringLiteral("no item %1 in %2 (items: %3)").arg(quoted(t), quoted(name), itemList(items)));
+        rows << row;
+    }
+    QPointer<QAbstractItemView> p(v);
+    return stepDone([this, p, rows, name] {
+        if (!p)
+            return;
+        const bool toggles = p->selectionMode() == QAbstractItemView::MultiSelection;
+        const int count = p->model() ? p->model()->rowCount(p->rootIndex()) : 0;
+        auto clickRow = [&](int row, Qt::KeyboardModifiers mods) {
+            const QModelIndex idx = listIndex(p, row);
+            p->scrollTo(idx);
+            const QRect r = p->visualRect(idx);
+            if (r.isValid())
+                QTest::mouseClick(p->viewport(), Qt::LeftButton, mods, r.center());
+        };
+        bool first = true;
+        for (int row = 0; toggles && p && row < count; ++row) {
+            const bool selected = p->selectionModel() && p->selectionModel()->isSelected(listIndex(p, row));
+            if (selected != rows.contains(row))
+                clickRow(row, Qt::NoModifier);
+        }
+        for (int i = 0; !toggles && p && i < rows.size(); ++i) {
+            clickRow(rows[i], first ? Qt::NoModifier : Qt::ControlModifier);
+            first = false;
+        }
+        for (int row = 0; p && p->selectionModel() && row < count; ++row) {
+            if (p->selectionModel()->isSelected(listIndex(p, row)) != rows.contains(row)) {
+                fail(QStringLiteral("clicks on %1 did not give the selection asked for").arg(quoted(name)));
+                return;
+            }
+        }
+    });
+}
+
+Outcome DialogDriver::Private::stepRadio(QWidget* w, const QString& name, int id)
+{
+    QAbstractButton* button = nullptr;
+    int count = 0;
+    if (auto* rg = qobject_cast<RadioGroup*>(w)) {
+        button = rg->button(id);
+        count = rg->count();
+    } else {
+        const QList<QRadioButton*> radios = radiosOf(w);
+        count = static_cast<int>(radios.size());
+        if (id < count)
+            button = radios[id];
+    }
+    if (!button)
+        return stepFailed(QStringLiteral("no radio button %1 in %2 (it has %3)").arg(id).arg(quoted(name)).arg(count));
+    const Outcome u = usable(button, name + QStringLiteral(" button ") + QString::number(id));
+    if (u.kind == Outcome::Failed)
+        return u;
+    QPointer<QAbstractButton> p(button);
+    return stepDone([p] {
+        if (p)
+            clickButton(p);
+    });
+}
+
+Outcome DialogDriver::Private::stepCell(QWidget* dialog, QWidget* w, const QString& name, int row,
+                                        int column, const QString& text)
+{
+    auto* view = qobject_cast<QTableView*>(w);
+    if (!view || !view->model())
+        return stepFailed(QStringLiteral("%1 (%2) is not a table").arg(quoted(name), className(w)));
+    const QModelIndex idx = view->model()->index(row, column, view->rootIndex());
+    if (!idx.isValid())
+        return stepFailed(QStringLiteral("no cell (%1, %2) in %3 (%4 rows, %5 columns)")
+                          .arg(row).arg(column).arg(quoted(name))
+                          .arg(view->model()->rowCount(view->rootIndex()))
+                          .arg(view->model()->columnCount(view->rootIndex())));
+    const QString cell = QStringLiteral("cell (%1, %2) of %3").arg(row).arg(column).arg(quoted(name));
+
+    // A widget standing in the cell is used directly, as a user would.
+    if (QWidget* inCell = view->indexWidget(idx)) {
+        QComboBox* c = qobject_cast<QComboBox*>(inCell);
+        if (!c)
+            c = inCell->findChild<QComboBox*>();
+        if (c) {
+            const int index = c->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
+            if (index < 0)
+                return stepFailed(QStringLiteral("no item %1 in the combo box of %2 (items: %3)")
+                                  .arg(quoted(text), cell, itemList(comboItems(c))));
+            QPointer<QComboBox> p(c);
+            return stepDone([p, index] {
+                if (p)
+                    pickInCombo(p, index);
+            });
+        }
+        return stepSet(dialog, inCell, cell, text);
+    }
+    if (!(view->model()->flags(idx) & Qt::ItemIsEditable))
+        return stepFailed(cell + QStringLiteral(" can't be edited"));
+
+    QPointer<QTableView> p(view);
+    QPointer<QWidget> d(dialog);
+    return stepDone([this, p, d, idx = QPersistentModelIndex(idx), text, cell] {
+        if (!p || !d || !idx.isValid())
+            return;
+        activate(d);
+        p->scrollTo(idx);
+        const auto before = p->viewport()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+        auto newEditor = [&]() -> QWidget* {
+            const auto now = p->viewport()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+            for (QWidget* e : now)
+                if (!before.contains(e) && e->isVisible())
+                    return e;
+            return nullptr;
+        };
+        const QRect r = p->visualRect(idx);
+        if (r.isValid())
+            QTest::mouseDClick(p->viewport(), Qt::LeftButton, Qt::NoModifier, r.center());
+        if (!p)
+            return;
+        QPointer<QWidget> editor = newEditor();
+        if (!editor) {
+            p->edit(idx);
+            editor = newEditor();
+        }
+        if (!editor) {
+            fail(QStringLiteral("no editor opened on ") + cell);
+            return;
+        }
+        bool oneLine = true;
+        if (auto* c = qobject_cast<QComboBox*>(editor.data()); c && !c->isEditable()) {
+            const int index = c->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
+            if (index < 0) {
+                fail(QStringLiteral("no item %1 in the editor of %2").arg(quoted(text), cell));
+                return;
+            }
+            pickInCombo(c, index);
+        } else if (QWidget* target = textTarget(editor, &oneLine)) {
+            typeInto(d, target, text);
+        } else {
+            fail(QStringLiteral("the editor of %1 (%2) takes no typed text").arg(cell, className(editor)));
+            return;
+        }
+        // Return would reach the dialog's default button; leaving the
+        // editor commits it as a click elsewhere does.
+        leaveField();
+        if (editor && editor->isVisible() && p) {
+            QAbstractItemDelegate* delegate = p->itemDelegate(idx);
+            emit delegate->commitData(editor);
+            emit delegate->closeEditor(editor, QAbstractItemDelegate::NoHint);
+        }
+    });
+}
+
+Outcome DialogDriver::Private::stepKey(QWidget* dialog, QWidget* w, const QString& keys)
+{
+    const QKeySequence seq = QKeySequence::fromString(keys);
+    QWidget* receiver = w->focusProxy() ? w->focusProxy() : w;
+    if (auto* s = qobject_cast<Spinner*>(w))
+        receiver = s->lineEdit();
+    QPointer<QWidget> target = receiver;
+    QPointer<QWidget> d(dialog);
+    return stepDone([d, target, seq] {
+        if (!d || !target)
+            return;
+        activate(d);
+        target->setFocus(Qt::OtherFocusReason);
+        for (int i = 0; i < seq.count() && target; ++i) {
+            const int k = seq[static_cast<uint>(i)];
+            QTest::keyClick(target, Qt::Key(k & ~Qt::KeyboardModifierMask),
+                            Qt::KeyboardModifiers(k & Qt::KeyboardModifierMask));
+        }
+    });
+}
+
+Outcome DialogDriver::Private::stepMenu(QWidget* w, const QString& action)
+{
+    QWidget* target = w;
+    QPoint at = w->rect().center();
+    if (auto* area = qobject_cast<QAbstractScrollArea*>(w)) {
+        target = area->viewport();
+        at = target->rect().center();
+    }
+    if (auto* v = qobject_cast<QAbstractItemView*>(w); v && v->currentIndex().isValid()) {
+        const QRect r = v->visualRect(v->currentIndex());
+        if (r.isValid())
+            at = r.center();
+    }
+    QPointer<QWidget> p(target);
+    const QString label = QStringLiteral("step %1 %2: ").arg(next + 1).arg(stepText(script.steps()[next].toObject()));
+    return stepDone([this, p, at, action, label] {
+        if (!p)
+            return;
+        menuPending = true;
+        menuAction = action;
+        menuStep = label;
+        menuClock.restart();
+        // May not return until the menu closes: the menu is answered from
+        // the ticks of its own event loop.
+        QContextMenuEvent event(QContextMenuEvent::Mouse, at, p->mapToGlobal(at));
+        QApplication::sendEvent(p, &event);
+    });
+}
+
+void DialogDriver::Private::answerMenu()
+{
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    if (!menu) {
+        if (menuClock.elapsed() > kWaitMs) {
+            menuPending = false;
+            fail(menuStep + QStringLiteral("no context menu opened"));
+        }
+        return;
+    }
+    menuPending = false;
+    QStringList texts;
+    const QList<QAction*> actions = menu->actions();
+    for (QAction* a : actions) {
+        if (a->isSeparator())
+            continue;
+        const QString text = plain(a->text().section(QLatin1Char('\t'), 0, 0));
+        texts << text;
+        if (text != menuAction)
+            continue;
+        if (!a->isEnabled()) {
+            fail(menuStep + QStringLiteral("%1 is disabled in the context menu").arg(quoted(menuAction)));
+            return;
+        }
+        menu->setActiveAction(a);
+        QTest::keyClick(menu, Qt::Key_Return);
+        return;
+    }
+    fail(menuStep + QStringLiteral("no action %1 in the context menu (it has %2)").arg(quoted(menuAction), itemList(texts)));
+}
+
+Outcome DialogDriver::Private::stepMessage(QWidget* dialog, const QString& button)
+{
+    auto* box = qobject_cast<QMessageBox*>(dialog);
+    if (!box)
+        return stepWaiting(QStringLiteral("waited 5 s for a message box; the active window is %1").arg(quoted(windowName(dialog))));
+    QStringList texts;
+    const QList<QAbstractButton*> buttons = box->buttons();
+    for (QAbstractButton* b : buttons) {
+        texts << plain(b->text());
+        if (plain(b->text()) != button)
+            continue;
+        reportBox(box, button);
+        QPointer<QAbstractButton> p(b);
+        return stepDone([p] {
+            if (p)
+                clickButton(p);
+        });
+    }
+    return stepFailed(QStringLiteral("no button %1 in the message box %2: %3 (it has %4)")
+                      .arg(quoted(button), quoted(box->windowTitle()), quoted(box->text()), itemList(texts)));
+}
+
+Outcome DialogDriver::Private::stepEnd(QWidget* dialog, bool accept)
+{
+    QAbstractButton* button = nullptr;
+    QString why;
+    const QString name = accept ? QStringLiteral("okButton") : QStringLiteral("cancelButton");
+    const auto named = dialog->findChildren<QAbstractButton*>(name);
+    for (QAbstractButton* b : named)
+        if (!button || (b->isVisible() && !button->isVisible()))
+            button = b;
+    const auto boxes = dialog->findChildren<QDialogButtonBox*>();
+    for (int i = 0; !button && i < boxes.size(); ++i) {
+        QDialogButtonBox* bb = boxes[i];
+        const QList<QAbstractButton*> all = bb->buttons();
+        for (QAbstractButton* b : all) {
+            const auto sb = bb->standardButton(b);
+            const bool hit = accept ? (sb == QDialogButtonBox::Ok || sb == QDialogButtonBox::Save
+                                       || sb == QDialogButtonBox::Yes)
+                                    : (sb == QDialogButtonBox::Cancel || sb == QDialogButtonBox::Close
+                                       || sb == QDialogButtonBox::No);
+            if (hit) {
+                button = b;
+                break;
+            }
+        }
+        for (int j = 0; !button && j < all.size(); ++j) {
+            const auto role = bb->buttonRole(all[j]);
+            if (accept ? role == QDialogButtonBox::AcceptRole || role == QDialogButtonBox::YesRole
+                       : role == QDialogButtonBox::RejectRole || role == QDialogButtonBox::NoRole)
+                button = all[j];
+        }
+    }
+    if (button) {
+        const Outcome u = usable(button, plain(button->text()).isEmpty() ? name : plain(button->text()));
+        if (u.kind == Outcome::Failed)
+            return u;
+        if (auto* box = qobject_cast<QMessageBox*>(dialog))
+            reportBox(box, plain(button->text()));
+        QPointer<QAbstractButton> p(button);
+        return stepDone([p] {
+            if (p)
+                clickButton(p);
+        });
+    }
+    QPointer<QDialog> d = qobject_cast<QDialog*>(dialog);
+    if (!d)
+        return stepFailed(QStringLiteral("%1 is not a dialog and has no %2").arg(quoted(windowName(dialog)), name));
+    return stepDone([d, accept] {
+        if (d && accept)
+            d->accept();
+        else if (d)
+            d->reject();
+    });
+}
+
+// ---------------------------------------------------------------- public
+
+DialogDriver::DialogDriver(AnswerScript script, EventSink sink) : d(new Private)
+{
+    d->script = std::move(script);
+    d->sink = std::move(sink);
+}
+
+DialogDriver::~DialogDriver()
+{
+    delete d->context;
+}
+
+void DialogDriver::setFailOnDialog(bool on)
+{
+    d->failOnDialog = on;
+}
+
+bool DialogDriver::failed() const
+{
+    return !d->failure.isEmpty();
+}
+
+QString DialogDriver::failure() const
+{
+    return d->failure;
+}
+
+void DialogDriver::run(const std::function<void()>& body)
+{
+    Private* p = d.get();
+    delete p->context;
+    p->context = new QObject;
+    p->next = 0;
+    p->failure.clear();
+    p->closing = false;
+    p->menuPending = false;
+    p->seen = nullptr;
+    p->stepClock.start();
+    p->idleClock.start();
+    setHelpHandler([p](const QString& topic) {
+        p->emitLine(QJsonObject{{QStringLiteral("help"), topic}});
+    });
+    QTimer::singleShot(kTickMs, p->context, [p] { p->tick(); });
+
+    struct Restore {
+        Private* p;
+        ~Restore()
+        {
+            delete p->context;
+            p->context = nullptr;
+            setHelpHandler({});
+        }
+    } restore{p};
+    if (body)
+        body();
+
+    const QJsonArray& steps = p->script.steps();
+    if (p->failure.isEmpty() && p->menuPending)
+        p->failure = p->menuStep + QStringLiteral("no context menu opened");
+    else if (p->failure.isEmpty() && p->next < steps.size())
+        p->failure = QStringLiteral("the call ended before step %1 %2")
+                         .arg(p->next + 1)
+                         .arg(stepText(steps[p->next].toObject()));
+}
+
+CallResult DialogDriver::call(Engine& engine, const std::string& name,
+                              const std::vector<ScriptValue>& args)
+{
+    CallResult result;
+    run([&] { result = engine.call(name, args); });
+    if (failed()) {
+        result.status = CallResult::Status::Failed;
+        result.error = failure().toStdString();
+        result.hasResult = false;
+        result.value = ScriptValue();
+    }
+    return result;
+}
+
+} // namespace vtkit

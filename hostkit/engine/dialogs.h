@@ -1,0 +1,79 @@
+// The dialog side of the stand-in host: the walker that loads and collects
+// bound widgets, the modal run of a factory's dialog, and answer scripts
+// that drive the dialogs a call opens as a user would.
+#pragma once
+
+#include "engine.h"
+
+#include <QByteArray>
+#include <QJsonArray>
+#include <QString>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+class QDialog;
+
+namespace vtkit {
+
+// Loads every bound widget under dialog from the call's arguments.
+VT_ENGINE_API void loadBoundWidgets(QDialog* dialog, UserFunctionInterface* call);
+// The string result of an accepted dialog: as long as the largest
+// outElementIndex; where two widgets name one element, the visible one wins.
+VT_ENGINE_API std::vector<std::string> collectBoundWidgets(QDialog* dialog);
+// The engine's DialogRunner: load, exec, collect on accept, delete.
+VT_ENGINE_API bool runBoundDialog(QDialog* dialog, UserFunctionInterface* call,
+                                  ScriptValue& result, std::string& error);
+
+// Steps run in order against the dialogs a call opens. "accept" and
+// "cancel" are one-step scripts; otherwise a JSON array of step objects.
+class VT_ENGINE_API AnswerScript {
+public:
+    AnswerScript();
+    static AnswerScript accept();
+    static AnswerScript cancel();
+    // Parses "accept", "cancel", or the JSON file at that path.
+    static bool fromArgument(const QString& argument, AnswerScript* out, QString* error);
+    static bool fromJson(const QByteArray& json, AnswerScript* out, QString* error);
+
+    const QJsonArray& steps() const { return m_steps; }
+    bool isEmpty() const { return m_steps.isEmpty(); }
+
+private:
+    QJsonArray m_steps;
+};
+
+// Answers the dialogs opened during one engine call. Create it before the
+// call, on the GUI thread; it watches for modal windows with a timer and
+// never lets a call hang: a step it can't carry out, or a dialog still open
+// 5 s after the last step, closes the dialogs and marks the run failed.
+class VT_ENGINE_API DialogDriver {
+public:
+    // Every message box and help request is reported as one JSON line.
+    using EventSink = std::function<void(const QByteArray& jsonLine)>;
+
+    explicit DialogDriver(AnswerScript script, EventSink sink = {});
+    ~DialogDriver();
+    DialogDriver(const DialogDriver&) = delete;
+    DialogDriver& operator=(const DialogDriver&) = delete;
+
+    // Without a script: fail at once when a dialog opens (no display).
+    void setFailOnDialog(bool on);
+
+    // Runs engine.call under the driver; the result's status is Failed with
+    // a clear error when the script could not be carried out to the end.
+    CallResult call(Engine& engine, const std::string& name, const std::vector<ScriptValue>& args);
+    // Runs body, which may open dialogs, under the driver; call() uses it.
+    void run(const std::function<void()>& body);
+
+    bool failed() const;
+    QString failure() const;
+
+private:
+    struct Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace vtkit
