@@ -22,7 +22,5 @@ show call BRELVONSearchIdx '["a","B","A"]' '["a"]'
 show call ThdWeight '["A"]'
 show call PerCycleTiming @scripts/demo/square.json '["duty-cycle"]' '["smooth"]'
 show call PerCycleValue @scripts/demo/square.json '[0]' '["rms"]' '["smooth"]' '[1]'
-if [ -d scripts/demo/dialogs ]; then
-  for call in scripts/demo/dialogs/*.sh; do . "$call"; done
-  echo "screenshots: $(ls demo-out/*.png 2>/dev/null | tr '\n' ' ')"
-fi
+. scripts/demo/dialogs/dialogs.sh
+echo "screenshots: $(ls demo-out/*.png | tr '\n' ' ')"

@@ -148,6 +148,52 @@ private slots:
         QCOMPARE(r.out, QByteArray("[\"x\",\"y\"]\nnull\n[\"a\",\"b\",\"\"]\n"));
     }
 
+    // Dialogs answered from the command line, as a person's clicks would.
+    void answeredDialogs_data()
+    {
+        QTest::addColumn<QString>("answer"); // a JSON script, or accept/cancel
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QByteArray>("out");
+        QTest::addColumn<QByteArray>("err");
+        QTest::newRow("moved and accepted")
+            << R"([{"wait": "ListSubsetDialog"}, {"choose": "listBoxAvailable", "texts": ["a"]},
+                  {"click": "Add Selected"}, {"accept": true}])"
+            << 0 << QByteArray(R"(["[selected]","a","[notselected]","b"])") << QByteArray();
+        QTest::newRow("accept") << "accept" << 0
+                                << QByteArray(R"(["[selected]","[notselected]","a","b"])")
+                                << QByteArray();
+        QTest::newRow("cancel") << "cancel" << 0 << QByteArray(R"([""])") << QByteArray();
+        QTest::newRow("no such widget")
+            << R"([{"click": "Frobnicate"}])" << 5 << QByteArray("null")
+            << QByteArray("no widget \"Frobnicate\"");
+        QTest::newRow("headless without answer") << QString() << 5 << QByteArray("null")
+                                                 << QByteArray("--answer");
+        QTest::newRow("bad step") << R"([{"dance": true}])" << 2 << QByteArray() << QByteArray();
+    }
+    void answeredDialogs()
+    {
+        QFETCH(QString, answer);
+        QFETCH(int, code);
+        QFETCH(QByteArray, out);
+        QFETCH(QByteArray, err);
+        QTemporaryDir dir;
+        QStringList args{"call", "ListSubsetDialog", R"(["b","a"])", R"([""])"};
+        if (answer.startsWith('[')) {
+            QFile script(dir.filePath("answer.json"));
+            QVERIFY(script.open(QIODevice::WriteOnly));
+            script.write(answer.toUtf8());
+            script.close();
+            args << "--answer" << script.fileName();
+        } else if (!answer.isEmpty()) {
+            args << "--answer" << answer;
+        }
+        args << "--config-dir" << dir.path();
+        const Run r = vthost(args);
+        QCOMPARE(r.code, code);
+        QCOMPARE(r.out.trimmed(), out);
+        QVERIFY2(r.err.contains(err), r.err.constData());
+    }
+
     // Strings travel as UTF-8 bytes; the splitter reads them as 8-bit text.
     void utf8Bytes()
     {

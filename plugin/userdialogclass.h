@@ -1,0 +1,22 @@
+// A dialog with no logic of its own: a generated form on a base class.
+// The host loads, runs and collects it through the form's bound widgets.
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+template <class Ui, class Base>
+class UserDialogClass : public Base {
+public:
+    // The parent is ignored: the host owns the dialog and gives it none.
+    UserDialogClass(QWidget* /*parent*/, int /*unused*/, const char* name)
+        : Base(nullptr)
+    {
+        Base::setObjectName(QString::fromLatin1(name));
+        m_ui.setupUi(this);
+    }
+
+protected:
+    Ui m_ui;
+};
