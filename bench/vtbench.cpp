@@ -120,6 +120,8 @@ BENCHMARK(ParseEscape)->Unit(benchmark::kMillisecond);
 // Keeps the console output and remembers each case's real time.
 class RatioReporter : public benchmark::ConsoleReporter {
 public:
+    RatioReporter() : ConsoleReporter(OO_Tabular) {}
+
     void ReportRuns(const std::vector<Run>& runs) override
     {
         ConsoleReporter::ReportRuns(runs);
@@ -127,9 +129,12 @@ public:
             if (!r.error_occurred)
                 m_times[r.benchmark_name()] = r.GetAdjustedRealTime();
     }
+    // The median when the cases were repeated, else the one run.
     double time(const std::string& name) const
     {
-        auto it = m_times.find(name);
+        auto it = m_times.find(name + "_median");
+        if (it == m_times.end())
+            it = m_times.find(name);
         return it == m_times.end() ? 0 : it->second;
     }
 

@@ -51,26 +51,68 @@ bool waveformOf(const ArgRecord& arg, Waveform* wave)
     return true;
 }
 
-// Four running pairs instead of one, so the loop isn't bound by the latency
-// of one min/max chain over millions of samples.
-double midpointLevel(const double* y, long long n)
+// Lowest and highest of values[0..n), n > 0. Four running pairs, written as
+// comparisons rather than std::min/max so the compiler can keep them in
+// vector registers: on millions of samples the loop then runs at the speed
+// of memory.
+void extremes(const double* values, long long n, double* low, double* high)
 {
-    double lo[4] = {y[0], y[0], y[0], y[0]};
-    double hi[4] = {y[0], y[0], y[0], y[0]};
-    long long i = 1;
+    double lo[4] = {values[0], values[0], values[0], values[0]};
+    double hi[4] = {values[0], values[0], values[0], values[0]};
+    long long i = 0;
     for (; i + 4 <= n; i += 4) {
         for (int k = 0; k < 4; ++k) {
-            lo[k] = std::min(lo[k], y[i + k]);
-            hi[k] = std::max(hi[k], y[i + k]);
+            const double v = values[i + k];
+            lo[k] = v < lo[k] ? v : lo[k];
+            hi[k] = v > hi[k] ? v : hi[k];
         }
     }
     for (; i < n; ++i) {
-        lo[0] = std::min(lo[0], y[i]);
-        hi[0] = std::max(hi[0], y[i]);
+        lo[0] = values[i] < lo[0] ? values[i] : lo[0];
+        hi[0] = values[i] > hi[0] ? values[i] : hi[0];
     }
-    const double low = std::min(std::min(lo[0], lo[1]), std::min(lo[2], lo[3]));
-    const double high = std::max(std::max(hi[0], hi[1]), std::max(hi[2], hi[3]));
+    *low = std::min(std::min(lo[0], lo[1]), std::min(lo[2], lo[3]));
+    *high = std::max(std::max(hi[0], hi[1]), std::max(hi[2], hi[3]));
+}
+
+double midpointLevel(const double* y, long long n)
+{
+    double low = 0;
+    double high = 0;
+    extremes(y, n, &low, &high);
     return (high + low) * 0.5;
+}
+
+// Whether every x after the first is greater than the first (compared with
+// the first only, not with its predecessor), and the extremes of ref, in
+// one pass: on a long waveform two arrays read side by side cost little
+// more than one. No early exit, so the loop stays branch-free.
+bool checkAndExtremes(const double* x, long long n, const double* ref, long long refCount,
+                      double* low, double* high)
+{
+    const double x0 = x[0];
+    long long notAfterFirst = 0;
+    double lo[2] = {ref[0], ref[0]};
+    double hi[2] = {ref[0], ref[0]};
+    const long long both = std::min(n, refCount);
+    long long i = 1;
+    for (; i + 2 <= both; i += 2) {
+        for (int k = 0; k < 2; ++k) {
+            const double v = ref[i + k];
+            notAfterFirst += !(x[i + k] > x0);
+            lo[k] = v < lo[k] ? v : lo[k];
+            hi[k] = v > hi[k] ? v : hi[k];
+        }
+    }
+    for (long long k = i; k < n; ++k)
+        notAfterFirst += !(x[k] > x0);
+    double restLow = lo[0];
+    double restHigh = hi[0];
+    if (i < refCount)
+        extremes(ref + i, refCount - i, &restLow, &restHigh);
+    *low = std::min(std::min(lo[0], lo[1]), restLow);
+    *high = std::max(std::max(hi[0], hi[1]), restHigh);
+    return notAfterFirst == 0;
 }
 
 void notify(UserFunctionInterface* ufi)
@@ -318,13 +360,25 @@ void perCycleValue(UserFunctionInterface* ufi)
     Waveform wave;
     if (!waveformOf(ufi->args[0], &wave))
         return;
-    // Each x against the first one only. No early exit: the whole array is
-    // read anyway on the common path, and this way the loop vectorises.
-    const double x0 = wave.x[0];
-    long long notAfterFirst = 0;
-    for (long long i = 1; i < wave.n; ++i)
-        notAfterFirst += !(wave.x[i] > x0);
-    if (notAfterFirst)
+
+    // The reference is read with the waveform's x values and count, so a
+    // shorter one would be read past its end: it is refused below.
+    const double* reference = wave.y;
+    long long referenceCount = wave.n;
+    bool referenceTooShort = false;
+    if (const ArgRecord* arg = callargs::present(ufi, 1); arg && arg->count > 1) {
+        reference = static_cast<const double*>(arg->data);
+        referenceCount = arg->count;
+        referenceTooShort = referenceCount < wave.n;
+    }
+
+    // A reference too short to use still has the x check made first.
+    double low = 0;
+    double high = 0;
+    const bool afterFirst =
+        referenceTooShort ? checkAndExtremes(wave.x, wave.n, wave.y, wave.n, &low, &high)
+                          : checkAndExtremes(wave.x, wave.n, reference, referenceCount, &low, &high);
+    if (!afterFirst)
         return;
 
     bool smooth = false;
@@ -334,18 +388,9 @@ void perCycleValue(UserFunctionInterface* ufi)
     } else {
         smooth = callargs::sameNoCase(callargs::text(ufi, 3), "smooth");
     }
-
-    // The reference is read with the waveform's x values and count, so a
-    // shorter one would be read past its end: refuse it.
-    const double* reference = wave.y;
-    long long referenceCount = wave.n;
-    if (const ArgRecord* arg = callargs::present(ufi, 1); arg && arg->count > 1) {
-        if (arg->count < wave.n)
-            return;
-        reference = static_cast<const double*>(arg->data);
-        referenceCount = arg->count;
-    }
-    double level = midpointLevel(reference, referenceCount);
+    if (referenceTooShort)
+        return;
+    double level = (high + low) * 0.5;
     double one = 1.0;
 
     ArgRecord local[4];
