@@ -103,10 +103,6 @@ public:
     explicit Spinner(QWidget* parent = nullptr, const char* name = nullptr);
     ~Spinner() override;
 
-    void setArgIndex(int index) { VT_FunctionDef::setArgIndex(index); }
-    void setInElementIndex(int index) { VT_FunctionDef::setInElementIndex(index); }
-    void setOutElementIndex(int index) { VT_FunctionDef::setOutElementIndex(index); }
-
     // The number in the text; 0 for an expression or a text with no number.
     double value() const;
     // Shows v as integer, engMode and precision say. The display follows
@@ -189,10 +185,6 @@ class VT_WIDGETS_API EditBox : public QLineEdit, public VT_FunctionDef {
 public:
     explicit EditBox(QWidget* parent = nullptr, const char* name = nullptr);
     ~EditBox() override;
-
-    void setArgIndex(int index) { VT_FunctionDef::setArgIndex(index); }
-    void setInElementIndex(int index) { VT_FunctionDef::setInElementIndex(index); }
-    void setOutElementIndex(int index) { VT_FunctionDef::setOutElementIndex(index); }
 };
 
 class VT_WIDGETS_API TextEdit : public QPlainTextEdit, public VT_FunctionDef {
@@ -205,10 +197,6 @@ class VT_WIDGETS_API TextEdit : public QPlainTextEdit, public VT_FunctionDef {
 public:
     explicit TextEdit(QWidget* parent = nullptr, const char* name = nullptr);
     ~TextEdit() override;
-
-    void setArgIndex(int index) { VT_FunctionDef::setArgIndex(index); }
-    void setInElementIndex(int index) { VT_FunctionDef::setInElementIndex(index); }
-    void setOutElementIndex(int index) { VT_FunctionDef::setOutElementIndex(index); }
 
     QString text() const { return toPlainText(); }
     void setText(const QString& text) { setPlainText(text); }
@@ -224,9 +212,6 @@ class VT_WIDGETS_API Label : public QLabel, public VT_FunctionDef {
 public:
     explicit Label(QWidget* parent = nullptr, const char* name = nullptr);
     ~Label() override;
-
-    void setArgIndex(int index) { VT_FunctionDef::setArgIndex(index); }
-    void setInElementIndex(int index) { VT_FunctionDef::setInElementIndex(index); }
 
 private:
     using VT_FunctionDef::setOutElementIndex;
@@ -246,10 +231,6 @@ public:
     explicit CheckBox(QWidget* parent = nullptr, const char* name = nullptr);
     ~CheckBox() override;
 
-    void setArgIndex(int index) { VT_FunctionDef::setArgIndex(index); }
-    void setInElementIndex(int index) { VT_FunctionDef::setInElementIndex(index); }
-    void setOutElementIndex(int index) { VT_FunctionDef::setOutElementIndex(index); }
-
     double realValue() const { return isChecked() ? 1.0 : 0.0; }
     void setRealValue(double value) { setChecked(value != 0.0); }
 };
@@ -264,10 +245,6 @@ class VT_WIDGETS_API GroupBox : public QGroupBox, public VT_FunctionDef {
 public:
     explicit GroupBox(QWidget* parent = nullptr, const char* name = nullptr);
     ~GroupBox() override;
-
-    void setArgIndex(int index) { VT_FunctionDef::setArgIndex(index); }
-    void setInElementIndex(int index) { VT_FunctionDef::setInElementIndex(index); }
-    void setOutElementIndex(int index) { VT_FunctionDef::setOutElementIndex(index); }
 };
 
 // A group of radio buttons whose value is the id of the selected one. The
@@ -290,10 +267,6 @@ class VT_WIDGETS_API RadioGroup : public QGroupBox, public VT_FunctionDef {
 public:
     explicit RadioGroup(QWidget* parent = nullptr, const char* name = nullptr);
     ~RadioGroup() override;
-
-    void setArgIndex(int index) { VT_FunctionDef::setArgIndex(index); }
-    void setInElementIndex(int index) { VT_FunctionDef::setInElementIndex(index); }
-    void setOutElementIndex(int index) { VT_FunctionDef::setOutElementIndex(index); }
 
     int selectedId() const;
     int count() const;
@@ -337,10 +310,6 @@ class VT_WIDGETS_API RadioButton : public QRadioButton, public VT_FunctionDef {
 public:
     explicit RadioButton(QWidget* parent = nullptr);
     ~RadioButton() override;
-
-    void setArgIndex(int index) { VT_FunctionDef::setArgIndex(index); }
-    void setInElementIndex(int index) { VT_FunctionDef::setInElementIndex(index); }
-    void setOutElementIndex(int index) { VT_FunctionDef::setOutElementIndex(index); }
 };
 
 // ------------------------------------------------------------------- lists
@@ -363,9 +332,6 @@ public:
     explicit ComboBox(QWidget* parent = nullptr, const char* name = nullptr);
     ~ComboBox() override;
 
-    void setArgIndex(int index) { VT_FunctionDef::setArgIndex(index); }
-    void setInElementIndex(int index) { VT_FunctionDef::setInElementIndex(index); }
-    void setOutElementIndex(int index) { VT_FunctionDef::setOutElementIndex(index); }
     int itemsArgIndex() const { return m_itemsArgIndex; }
     void setItemsArgIndex(int index) { m_itemsArgIndex = index; }
     int itemsElementIndex() const { return m_itemsElementIndex; }
@@ -414,9 +380,6 @@ public:
     explicit ListBox(QWidget* parent = nullptr, const char* name = nullptr);
     ~ListBox() override;
 
-    void setArgIndex(int index) { VT_FunctionDef::setArgIndex(index); }
-    void setInElementIndex(int index) { VT_FunctionDef::setInElementIndex(index); }
-    void setOutElementIndex(int index) { VT_FunctionDef::setOutElementIndex(index); }
     int itemsArgIndex() const { return m_itemsArgIndex; }
     void setItemsArgIndex(int index) { m_itemsArgIndex = index; }
     int itemsElementIndex() const { return m_itemsElementIndex; }
@@ -457,10 +420,6 @@ class VT_WIDGETS_API PushButton : public QPushButton, public VT_FunctionDef {
 public:
     explicit PushButton(QWidget* parent = nullptr, const char* name = nullptr);
     ~PushButton() override;
-
-    void setArgIndex(int index) { VT_FunctionDef::setArgIndex(index); }
-    void setInElementIndex(int index) { VT_FunctionDef::setInElementIndex(index); }
-    void setOutElementIndex(int index) { VT_FunctionDef::setOutElementIndex(index); }
 
     QString actionText() const { return m_actionText; }
     void setActionText(const QString& text) { m_actionText = text; }
