@@ -2,13 +2,13 @@
 #include "kitsupport.h"
 #include "udf.h"
 
-#include <QDir>
 #include <QTemporaryFile>
 #include <QtTest>
 
 #include <climits>
 #include <cmath>
 #include <cstring>
+#include <functional>
 #include <limits>
 #include <string>
 #include <vector>
@@ -25,11 +25,32 @@ QStringList toList(const YArray<YString>& parts)
     return list;
 }
 
+QByteArray bytes(const char* text)
+{
+    return QByteArray(text);
+}
+
 bool near(double a, double b)
 {
-    if (a == b)
-        return true;
-    return std::fabs(a - b) <= 1e-12 * std::max(std::fabs(a), std::fabs(b));
+    return a == b || std::fabs(a - b) <= 1e-12 * std::max(std::fabs(a), std::fabs(b));
+}
+
+void setArg(ArgRecord& arg, void* data, std::uint32_t count, std::uint32_t kind)
+{
+    arg.data = data;
+    arg.count = count;
+    arg.kind = kind;
+}
+
+// "CODE TEXT" of the exception that action throws, or "none".
+QByteArray thrown(const std::function<void()>& action)
+{
+    try {
+        action();
+    } catch (const VantrellException& e) {
+        return QByteArray::number(e.code()) + ' ' + e.text();
+    }
+    return "none";
 }
 
 } // namespace
@@ -40,19 +61,14 @@ class TestSupportCore : public QObject {
 private slots:
     void engToReal_data();
     void engToReal();
-    void engToRealSpecial();
     void realToEng_data();
     void realToEng();
-    void engRoundTrip_data();
-    void engRoundTrip();
     void splitLine_data();
     void splitLine();
-    void splitLineClearsFirst();
     void scanLine_data();
     void scanLine();
     void binarySearch_data();
     void binarySearch();
-    void binarySearchLarge();
     void hashStable_data();
     void hashStable();
     void yStringBasics();
@@ -62,32 +78,26 @@ private slots:
     void latin1RoundTrip();
     void arrays();
     void vectorAppendSelf();
-    void allocPrimOutOfMemory();
-    void arrayDataOutOfMemory();
     void exceptions();
     void help();
     void helpContextId_data();
     void helpContextId();
     void extensions();
-    void files();
-    void clipboardWithoutGui();
+    void filesAndClipboard();
+    void callRecord_data();
     void callRecord();
+    void stringResult();
 };
-
-// ------------------------------------------------------------------ numbers
 
 void TestSupportCore::engToReal_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<double>("expected");
     QTest::addColumn<int>("endOffset");
-
+    QTest::newRow("null") << QByteArray() << 0.0 << 0;
     QTest::newRow("plain") << QByteArray("12.5") << 12.5 << 4;
-    QTest::newRow("leading space") << QByteArray("  12") << 12.0 << 4;
     QTest::newRow("k") << QByteArray("10k") << 1e4 << 3;
-    QTest::newRow("K") << QByteArray("10K") << 1e4 << 3;
     QTest::newRow("MEG") << QByteArray("1.5MEG") << 1.5e6 << 6;
-    QTest::newRow("Meg") << QByteArray("100Meg") << 1e8 << 6;
     QTest::newRow("meg") << QByteArray("1.5meg") << 1.5e6 << 6;
     QTest::newRow("mil") << QByteArray("2mil") << 2 * 25.4e-6 << 4;
     QTest::newRow("m") << QByteArray("3m") << 3e-3 << 2;
@@ -102,7 +112,6 @@ void TestSupportCore::engToReal_data()
     QTest::newRow("f") << QByteArray("7f") << 7e-15 << 2;
     QTest::newRow("unit after suffix") << QByteArray("10kOhm") << 1e4 << 6;
     QTest::newRow("unit only") << QByteArray("10Ohm") << 10.0 << 5;
-    QTest::newRow("nF") << QByteArray("1nF rest") << 1e-9 << 3;
     QTest::newRow("exponent and suffix") << QByteArray("1e3k") << 1e6 << 4;
     QTest::newRow("negative") << QByteArray("-2.5K") << -2500.0 << 5;
     QTest::newRow("space before suffix") << QByteArray("10 k") << 10.0 << 2;
@@ -115,24 +124,15 @@ void TestSupportCore::engToReal()
     QFETCH(QByteArray, text);
     QFETCH(double, expected);
     QFETCH(int, endOffset);
+    const char* input = text.isNull() ? nullptr : text.constData();
     char* end = nullptr;
-    const double value = sp_ConvertEngToReal(text.constData(), &end);
+    const double value = sp_ConvertEngToReal(input, &end);
     QVERIFY2(near(value, expected), qPrintable(QString::number(value, 'g', 17)));
-    QCOMPARE(int(end - text.constData()), endOffset);
-    QVERIFY(near(sp_ConvertEngToReal(text.constData(), nullptr), expected));
-}
-
-void TestSupportCore::engToRealSpecial()
-{
-    char* end = reinterpret_cast<char*>(1);
-    QCOMPARE(sp_ConvertEngToReal(static_cast<const char*>(nullptr), &end), 0.0);
+    QCOMPARE(end ? int(end - input) : -1, input ? endOffset : -1);
+    QVERIFY(near(sp_ConvertEngToReal(input, nullptr), expected));
+    // The QString overload parses a temporary copy, so end can't point into it.
+    QVERIFY(near(sp_ConvertEngToReal(QString::fromLatin1(text), &end), expected));
     QVERIFY(!end);
-
-    end = reinterpret_cast<char*>(1);
-    QVERIFY(near(sp_ConvertEngToReal(QString::fromUtf8("4.7\xC2\xB5"), &end), 4.7e-6));
-    QVERIFY(!end);
-    QVERIFY(near(sp_ConvertEngToReal(QStringLiteral("2.2kOhm"), nullptr), 2200));
-    QCOMPARE(sp_ConvertEngToReal(QString(), nullptr), 0.0);
 }
 
 void TestSupportCore::realToEng_data()
@@ -140,7 +140,6 @@ void TestSupportCore::realToEng_data()
     QTest::addColumn<double>("value");
     QTest::addColumn<int>("digits");
     QTest::addColumn<QString>("expected");
-
     QTest::newRow("kilo, six digits") << 62831.853 << 6 << "62.8319k";
     QTest::newRow("Meg") << 1e6 << 6 << "1Meg";
     QTest::newRow("u") << 1e-6 << 6 << "1u";
@@ -162,7 +161,6 @@ void TestSupportCore::realToEng_data()
     QTest::newRow("below range") << 1e-16 << 3 << "1e-16";
     QTest::newRow("carry out of range") << 999.9999e12 << 3 << "1e+15";
     QTest::newRow("nan") << std::numeric_limits<double>::quiet_NaN() << 6 << "nan";
-    QTest::newRow("inf") << std::numeric_limits<double>::infinity() << 6 << "inf";
     QTest::newRow("-inf") << -std::numeric_limits<double>::infinity() << 6 << "-inf";
 }
 
@@ -174,45 +172,24 @@ void TestSupportCore::realToEng()
     QCOMPARE(toQs(sp_ConvertRealToJSEng(value, digits, false)), expected);
 }
 
-void TestSupportCore::engRoundTrip_data()
-{
-    QTest::addColumn<double>("value");
-    for (double v : {1.0, 62831.853, -4.7e-9, 1.2345e-13, 3.3e12, 0.5, 999.0, 1001.0, 2.2e-3,
-                     7.77e7})
-        QTest::newRow(qPrintable(QString::number(v, 'g', 10))) << v;
-}
-
-void TestSupportCore::engRoundTrip()
-{
-    QFETCH(double, value);
-    const YString text = sp_ConvertRealToJSEng(value, 12, false);
-    const double back = sp_ConvertEngToReal(text.c_str(), nullptr);
-    QVERIFY2(std::fabs(back - value) <= 1e-10 * std::fabs(value), text.c_str());
-}
-
-// -------------------------------------------------------------------- split
-
 void TestSupportCore::splitLine_data()
 {
     QTest::addColumn<QByteArray>("line");
     QTest::addColumn<char>("separator");
     QTest::addColumn<int>("maxParts");
     QTest::addColumn<QStringList>("expected");
-
+    QTest::newRow("null") << QByteArray() << '|' << 0 << QStringList();
     QTest::newRow("empty") << QByteArray("") << '|' << 0 << QStringList();
     QTest::newRow("one") << QByteArray("a") << '|' << 0 << QStringList{"a"};
-    QTest::newRow("two") << QByteArray("a|b") << '|' << 0 << QStringList{"a", "b"};
     QTest::newRow("empty middle") << QByteArray("a||b") << '|' << 0 << QStringList{"a", "", "b"};
     QTest::newRow("trailing") << QByteArray("a|") << '|' << 0 << QStringList{"a", ""};
     QTest::newRow("leading") << QByteArray("|a") << '|' << 0 << QStringList{"", "a"};
     QTest::newRow("only separator") << QByteArray("|") << '|' << 0 << QStringList{"", ""};
     QTest::newRow("max 3") << QByteArray("a|b|c|d") << '|' << 3 << QStringList{"a", "b", "c"};
-    QTest::newRow("max 10 colon") << QByteArray("x:y: z") << ':' << 10
-                                  << QStringList{"x", "y", " z"};
+    QTest::newRow("max 10") << QByteArray("x:y: z") << ':' << 10 << QStringList{"x", "y", " z"};
     QTest::newRow("max 1") << QByteArray("a|b") << '|' << 1 << QStringList{"a"};
     QTest::newRow("max equal") << QByteArray("a|b|") << '|' << 3 << QStringList{"a", "b", ""};
-    QTest::newRow("other separator kept") << QByteArray("a;b|c") << '|' << 0
-                                          << QStringList{"a;b", "c"};
+    QTest::newRow("other separator") << QByteArray("a;b|c") << '|' << 0 << QStringList{"a;b", "c"};
 }
 
 void TestSupportCore::splitLine()
@@ -222,21 +199,9 @@ void TestSupportCore::splitLine()
     QFETCH(int, maxParts);
     QFETCH(QStringList, expected);
     YArray<YString> parts;
-    sp_SplitLine(line.constData(), separator, &parts, maxParts);
+    parts.add("stale");
+    sp_SplitLine(line.isNull() ? nullptr : line.constData(), separator, &parts, maxParts);
     QCOMPARE(toList(parts), expected);
-}
-
-void TestSupportCore::splitLineClearsFirst()
-{
-    YList<YString> parts;
-    parts.add("old");
-    sp_SplitLine(nullptr, '|', &parts, 0);
-    QCOMPARE(parts.count(), 0LL);
-    parts.add("old");
-    sp_SplitLine("n|m", '|', &parts, 0);
-    QCOMPARE(toList(parts), (QStringList{"n", "m"}));
-    sp_ScanLine("q", " ", &parts, 0);
-    QCOMPARE(toList(parts), QStringList{"q"});
 }
 
 void TestSupportCore::scanLine_data()
@@ -245,18 +210,16 @@ void TestSupportCore::scanLine_data()
     QTest::addColumn<QByteArray>("separators");
     QTest::addColumn<int>("maxParts");
     QTest::addColumn<QStringList>("expected");
-
     const QByteArray seps(" \t\n\r,()");
-    QTest::newRow("empty") << QByteArray("") << seps << 0x7fffffff << QStringList();
-    QTest::newRow("only separators") << QByteArray(" ,( )\t") << seps << 0x7fffffff
-                                     << QStringList();
-    QTest::newRow("runs") << QByteArray(" a  b\t(c),d \r\n") << seps << 0x7fffffff
+    const int all = 0x7fffffff;
+    QTest::newRow("empty") << QByteArray("") << seps << all << QStringList();
+    QTest::newRow("only separators") << QByteArray(" ,( )\t") << seps << all << QStringList();
+    QTest::newRow("runs") << QByteArray(" a  b\t(c),d \r\n") << seps << all
                           << QStringList{"a", "b", "c", "d"};
     QTest::newRow("no limit 0") << QByteArray("1 2 3") << QByteArray(" ") << 0
                                 << QStringList{"1", "2", "3"};
-    QTest::newRow("max 2") << QByteArray("1 2 3") << QByteArray(" ") << 2
-                           << QStringList{"1", "2"};
-    QTest::newRow("trailing") << QByteArray("x,") << seps << 0x7fffffff << QStringList{"x"};
+    QTest::newRow("max 2") << QByteArray("1 2 3") << QByteArray(" ") << 2 << QStringList{"1", "2"};
+    QTest::newRow("trailing") << QByteArray("x,") << seps << all << QStringList{"x"};
 }
 
 void TestSupportCore::scanLine()
@@ -266,18 +229,16 @@ void TestSupportCore::scanLine()
     QFETCH(int, maxParts);
     QFETCH(QStringList, expected);
     YArray<YString> parts;
+    parts.add("stale");
     sp_ScanLine(line.constData(), separators.constData(), &parts, maxParts);
     QCOMPARE(toList(parts), expected);
 }
-
-// ------------------------------------------------------------ binary search
 
 void TestSupportCore::binarySearch_data()
 {
     QTest::addColumn<std::vector<double>>("values");
     QTest::addColumn<double>("value");
     QTest::addColumn<long long>("lower");
-
     const std::vector<double> four{0, 1, 2, 3};
     QTest::newRow("below") << four << -1.0 << -1LL;
     QTest::newRow("first") << four << 0.0 << 0LL;
@@ -286,9 +247,8 @@ void TestSupportCore::binarySearch_data()
     QTest::newRow("inside last") << four << 2.5 << 2LL;
     QTest::newRow("last sample") << four << 3.0 << 2LL;
     QTest::newRow("above") << four << 3.5 << 4LL;
+    QTest::newRow("nan") << four << std::numeric_limits<double>::quiet_NaN() << 4LL;
     QTest::newRow("one equal") << std::vector<double>{5} << 5.0 << 0LL;
-    QTest::newRow("one below") << std::vector<double>{5} << 4.0 << -1LL;
-    QTest::newRow("one above") << std::vector<double>{5} << 6.0 << 1LL;
     QTest::newRow("empty") << std::vector<double>{} << 1.0 << -1LL;
     QTest::newRow("two last") << std::vector<double>{1, 2} << 2.0 << 0LL;
     QTest::newRow("duplicates") << std::vector<double>{0, 1, 1, 2} << 1.0 << 2LL;
@@ -304,23 +264,6 @@ void TestSupportCore::binarySearch()
     QCOMPARE(lo, lower);
     QCOMPARE(up, lower + 1);
 }
-
-void TestSupportCore::binarySearchLarge()
-{
-    std::vector<double> values(2000001);
-    for (std::size_t i = 0; i < values.size(); ++i)
-        values[i] = static_cast<double>(i) * 0.5;
-    const long long n = static_cast<long long>(values.size());
-    for (long long k = 0; k < 2000; ++k) {
-        const long long i = (k * 7919) % (n - 1);
-        long long lo = 0, up = 0;
-        sp_BinarySearch(values.data(), n, values[i] + 0.25, &lo, &up, 1);
-        if (lo != i)
-            QFAIL(qPrintable(QString("index %1 gave %2").arg(i).arg(lo)));
-    }
-}
-
-// ------------------------------------------------------------------ strings
 
 void TestSupportCore::hashStable_data()
 {
@@ -342,67 +285,50 @@ void TestSupportCore::hashStable()
 
 void TestSupportCore::yStringBasics()
 {
-    QCOMPARE(sizeof(YString), sizeof(void*));
-    YString empty;
-    QVERIFY(empty.c_str());
-    QCOMPARE(empty.length(), 0);
-    QVERIFY(empty.isEmpty());
-    YString fromNull(static_cast<const char*>(nullptr));
-    QVERIFY(fromNull.c_str() && !*fromNull.c_str());
-    QCOMPARE(fromNull, empty);
-
-    QCOMPARE(QByteArray(YString(-42).c_str()), QByteArray("-42"));
-    QCOMPARE(QByteArray(YString(0).c_str()), QByteArray("0"));
-    QCOMPARE(QByteArray(YString(INT_MIN).c_str()), QByteArray("-2147483648"));
+    const YString empty;
+    QVERIFY(empty.c_str() && empty.isEmpty());
+    QCOMPARE(YString(static_cast<const char*>(nullptr)), empty);
+    QCOMPARE(bytes(YString(INT_MIN)), QByteArray("-2147483648"));
 
     YString a("hello");
     YString b(a);
-    QCOMPARE(b.c_str(), a.c_str()); // shared
+    QVERIFY(b.c_str() == a.c_str()); // shared, not copied
     YString c;
     c = a;
-    QCOMPARE(c.c_str(), a.c_str());
+    QVERIFY(c.c_str() == a.c_str());
     c = "other";
-    QCOMPARE(QByteArray(a.c_str()), QByteArray("hello"));
-    QCOMPARE(QByteArray(c.c_str()), QByteArray("other"));
+    QCOMPARE(bytes(a), QByteArray("hello"));
     c = c.c_str() + 1; // assignment from its own text
-    QCOMPARE(QByteArray(c.c_str()), QByteArray("ther"));
+    QCOMPARE(bytes(c), QByteArray("ther"));
     c = c;
-    QCOMPARE(QByteArray(c.c_str()), QByteArray("ther"));
+    QCOMPARE(bytes(c), QByteArray("ther"));
     QVERIFY(a == YString("hello"));
     QVERIFY(a != c);
-    QCOMPARE(a.length(), 5);
-    const char* asChar = a;
-    QCOMPARE(QByteArray(asChar), QByteArray("hello"));
-
-    b.stripQuotes("\"", false); // no quotes: b still shares a's text
-    QCOMPARE(QByteArray(a.c_str()), QByteArray("hello"));
 }
 
 void TestSupportCore::yStringConcat()
 {
     const YString a("ab");
     YString r = a.concat("x").concat("y");
-    QCOMPARE(QByteArray(r.c_str()), QByteArray("abxy"));
-    QCOMPARE(QByteArray(a.c_str()), QByteArray("ab"));
-    YString n = a.concat(nullptr).concat(nullptr).concat("");
-    QCOMPARE(QByteArray(n.c_str()), QByteArray("ab"));
-    YString e = YString().concat("z");
-    QCOMPARE(QByteArray(e.c_str()), QByteArray("z"));
+    QCOMPARE(bytes(r), QByteArray("abxy"));
+    QCOMPARE(bytes(a), QByteArray("ab"));
+    QCOMPARE(bytes(YString(a.concat(nullptr).concat(nullptr).concat(""))), QByteArray("ab"));
+    QCOMPARE(bytes(YString(YString().concat("z"))), QByteArray("z"));
 
     // Two temporaries alive in one expression.
     YString both = YString(YString("1").concat("2")).concat(YString("3").concat("4").c_str());
-    QCOMPARE(QByteArray(both.c_str()), QByteArray("1234"));
+    QCOMPARE(bytes(both), QByteArray("1234"));
 
-    // Many in a row, more than the ring holds, and a long chain.
+    // More in a row than the ring holds.
     YString acc("s");
     for (int i = 0; i < 100; ++i)
         acc = acc.concat("-").concat(YString(i).c_str());
-    QVERIFY(QByteArray(acc.c_str()).startsWith("s-0-1-2-"));
-    QVERIFY(QByteArray(acc.c_str()).endsWith("-98-99"));
+    QVERIFY(bytes(acc).startsWith("s-0-1-2-"));
+    QVERIFY(bytes(acc).endsWith("-98-99"));
 
     TempString& t = a.concat("c");
     t.concat(t.c_str()); // appending its own text
-    QCOMPARE(QByteArray(t.c_str()), QByteArray("abcabc"));
+    QCOMPARE(bytes(t.c_str()), QByteArray("abcabc"));
     QCOMPARE(t.length(), 6);
 }
 
@@ -411,7 +337,6 @@ void TestSupportCore::stripQuotes_data()
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QByteArray>("quotes");
     QTest::addColumn<QByteArray>("expected");
-
     QTest::newRow("double") << QByteArray("\"abc\"") << QByteArray("\"'") << QByteArray("abc");
     QTest::newRow("single") << QByteArray("'abc'") << QByteArray("\"'") << QByteArray("abc");
     QTest::newRow("mixed") << QByteArray("'abc\"") << QByteArray("\"'") << QByteArray("'abc\"");
@@ -419,9 +344,7 @@ void TestSupportCore::stripQuotes_data()
     QTest::newRow("only open") << QByteArray("\"abc") << QByteArray("\"") << QByteArray("\"abc");
     QTest::newRow("pair") << QByteArray("\"\"") << QByteArray("\"") << QByteArray("");
     QTest::newRow("single char") << QByteArray("\"") << QByteArray("\"") << QByteArray("\"");
-    QTest::newRow("one pair only") << QByteArray("\"\"x\"\"") << QByteArray("\"")
-                                   << QByteArray("\"x\"");
-    QTest::newRow("empty") << QByteArray("") << QByteArray("\"") << QByteArray("");
+    QTest::newRow("one pair") << QByteArray("\"\"x\"\"") << QByteArray("\"") << QByteArray("\"x\"");
 }
 
 void TestSupportCore::stripQuotes()
@@ -432,39 +355,31 @@ void TestSupportCore::stripQuotes()
     YString s(text.constData());
     const YString shared(s);
     s.stripQuotes(quotes.constData(), false);
-    QCOMPARE(QByteArray(s.c_str()), expected);
-    QCOMPARE(QByteArray(shared.c_str()), text); // the copy keeps its text
+    QCOMPARE(bytes(s), expected);
+    QCOMPARE(bytes(shared), text); // the copy keeps its text
 }
 
 void TestSupportCore::latin1RoundTrip()
 {
-    QByteArray bytes;
+    QByteArray all;
     for (int c = 1; c < 256; ++c)
-        bytes.append(static_cast<char>(c));
-    const YString y(bytes.constData());
-    const QString q = toQs(y);
+        all.append(static_cast<char>(c));
+    const QString q = toQs(YString(all.constData()));
     QCOMPARE(q.size(), 255);
     QCOMPARE(q.at(0xB4).unicode(), ushort(0xB5));
-    QCOMPARE(QByteArray(toYs(q).c_str()), bytes);
-    Tocs narrow(q);
-    QCOMPARE(QByteArray(static_cast<const char*>(narrow)), bytes);
-    QVERIFY(equals(QStringLiteral("x"), QStringLiteral("x")));
-    QVERIFY(!equals(QStringLiteral("x"), QStringLiteral("X")));
-    Tocs empty{QString()};
-    QCOMPARE(QByteArray(static_cast<const char*>(empty)), QByteArray(""));
+    QCOMPARE(bytes(toYs(q)), all);
+    QCOMPARE(bytes(Tocs(q)), all);
+    QCOMPARE(bytes(Tocs(QString())), QByteArray(""));
 }
-
-// --------------------------------------------------------------- containers
 
 void TestSupportCore::arrays()
 {
     YArray<YString> a;
-    QVERIFY(a.isEmpty());
     a.add("b");
     a.insertAt("a", 0);
-    a.insertAt("d", 99);  // clamped: appended
+    a.insertAt("d", 99); // clamped: appended
     a.insertAt("c", 2);
-    a.insertAt("e", -1);  // negative appends
+    a.insertAt("e", -1); // negative appends
     QCOMPARE(toList(a), (QStringList{"a", "b", "c", "d", "e"}));
     a.removeAt(1);
     a.removeAt(10);
@@ -473,25 +388,22 @@ void TestSupportCore::arrays()
     for (int i = 0; i < 100; ++i)
         a.add(a[0]);
     QCOMPARE(a.count(), 104LL);
-    QCOMPARE(QByteArray(a[103].c_str()), QByteArray("a"));
+    QCOMPARE(bytes(a[103]), QByteArray("a"));
     a.clear();
-    QCOMPARE(a.size(), 0LL);
+    QVERIFY(a.isEmpty());
 
     YArrayData raw(sizeof(int));
-    int v = 1;
-    QCOMPARE(raw.addDataAt(&v, -1), 0LL);
-    v = 3;
-    QCOMPARE(raw.addDataAt(&v, 5), 1LL);
-    v = 2;
-    QCOMPARE(raw.addDataAt(&v, 1), 1LL);
+    int values[] = {1, 3, 2};
+    QCOMPARE(raw.addDataAt(&values[0], -1), 0LL);
+    QCOMPARE(raw.addDataAt(&values[1], 5), 1LL);
+    QCOMPARE(raw.addDataAt(&values[2], 1), 1LL);
     for (int i = 0; i < 50; ++i)
         raw.addDataAt(raw.at(0), 0); // element inside the array
     QCOMPARE(raw.count(), 53LL);
-    QCOMPARE(*static_cast<int*>(raw.at(50)), 1);
-    QCOMPARE(*static_cast<int*>(raw.at(51)), 2);
-    QCOMPARE(*static_cast<int*>(raw.at(52)), 3);
+    auto intAt = [&raw](long long i) { return *static_cast<int*>(raw.at(i)); };
+    QCOMPARE(QList<int>({intAt(50), intAt(51), intAt(52)}), QList<int>({1, 2, 3}));
     raw.removeBytesAt(51);
-    QCOMPARE(*static_cast<int*>(raw.at(51)), 3);
+    QCOMPARE(intAt(51), 3);
     raw.truncate(2);
     QCOMPARE(raw.count(), 2LL);
 }
@@ -499,77 +411,35 @@ void TestSupportCore::arrays()
 void TestSupportCore::vectorAppendSelf()
 {
     YVector<double> v(3);
-    QCOMPARE(v.size(), 3LL);
     QCOMPARE(v[2], 0.0);
     v[0] = 7.5;
     for (int i = 0; i < 40; ++i)
         v.append(v[0]);
     QCOMPARE(v.size(), 43LL);
     QCOMPARE(v[42], 7.5);
-    v.clear();
-    QCOMPARE(v.size(), 0LL);
-}
-
-void TestSupportCore::allocPrimOutOfMemory()
-{
-    // Code and text of the exception, "" when none is thrown.
-    auto check = [](auto& vector, const char* expected) -> bool {
-        try {
-            vector.allocPrim(LLONG_MAX); // beyond SIZE_MAX / sizeof(T): nothing is allocated
-        } catch (const MemoryException& e) {
-            return e.code() == 5 && QByteArray(e.text()) == QByteArray(expected);
-        }
-        return false;
-    };
-    YVector<double> d;
-    QVERIFY(check(d, "*** Fatal error, out of memory ***\nDetected in YVector<double>::allocPrim"));
-    YVector<bool> b;
-    QVERIFY(check(b, "*** Fatal error, out of memory ***\nDetected in YVector<bool>::allocPrim"));
-    YVector<const char*> s;
-    QVERIFY(check(s, "*** Fatal error, out of memory ***\nDetected in YVector<const char*>::allocPrim"));
-    bool thrown = false;
-    try {
-        YVector<double> negative(-1);
-    } catch (const VantrellException& e) {
-        thrown = true;
-        QCOMPARE(e.code(), 5);
-    }
-    QVERIFY(thrown);
-}
-
-void TestSupportCore::arrayDataOutOfMemory()
-{
-    YArrayData raw(16);
-    bool thrown = false;
-    try {
-        raw.checkAlloc(LLONG_MAX / 2);
-    } catch (const MemoryException& e) {
-        thrown = true;
-        QCOMPARE(e.code(), 5);
-        QCOMPARE(QByteArray(e.text()),
-                 QByteArray("*** Fatal error, out of memory ***\nDetected in YArrayData::checkAlloc"));
-    }
-    QVERIFY(thrown);
-    QCOMPARE(raw.count(), 0LL);
 }
 
 void TestSupportCore::exceptions()
 {
-    VantrellException plain;
-    QCOMPARE(plain.code(), 9);
-    QCOMPARE(QByteArray(plain.text()), QByteArray(""));
-    const std::string longText(2000, 'x');
-    VantrellException big(3, longText.c_str());
-    QCOMPARE(big.code(), 3);
-    QCOMPARE(std::strlen(big.text()), std::size_t(VantrellException::TextSize - 1));
-    MemoryException memory("m");
-    QCOMPARE(memory.code(), 5);
-    QCOMPARE(QByteArray(memory.text()), QByteArray("m"));
-    const VantrellException& base = memory;
-    QCOMPARE(base.code(), 5);
-}
+    const QByteArray fatal = "5 *** Fatal error, out of memory ***\nDetected in ";
+    // Sizes no allocator can serve.
+    QCOMPARE(thrown([] { YVector<double>().allocPrim(LLONG_MAX); }),
+             fatal + "YVector<double>::allocPrim");
+    QCOMPARE(thrown([] { YVector<bool>().allocPrim(LLONG_MAX); }),
+             fatal + "YVector<bool>::allocPrim");
+    QCOMPARE(thrown([] { YVector<const char*>().allocPrim(LLONG_MAX); }),
+             fatal + "YVector<const char*>::allocPrim");
+    QCOMPARE(thrown([] { YVector<double> negative(-1); }), fatal + "YVector<double>::allocPrim");
+    YArrayData raw(16);
+    QCOMPARE(thrown([&raw] { raw.checkAlloc(LLONG_MAX / 2); }), fatal + "YArrayData::checkAlloc");
+    QCOMPARE(raw.count(), 0LL);
 
-// --------------------------------------------------------------------- help
+    QCOMPARE(thrown([] { throw VantrellException(); }), QByteArray("9 "));
+    QCOMPARE(thrown([] { throw MemoryException("m"); }), QByteArray("5 m"));
+    const std::string longText(2000, 'x');
+    const VantrellException big(3, longText.c_str());
+    QCOMPARE(std::strlen(big.text()), std::size_t(VantrellException::TextSize - 1));
+}
 
 void TestSupportCore::help()
 {
@@ -584,7 +454,6 @@ void TestSupportCore::help()
     QCOMPARE(vtkit::helpRequests(), (QStringList{"4711", "123", ""}));
     vtkit::setHelpHandler({});
     vtkit::clearHelpRequests();
-    QVERIFY(vtkit::helpRequests().isEmpty());
     sp_RunHelp(RunHelpContext, "9", nullptr, nullptr);
     QCOMPARE(vtkit::helpRequests(), QStringList{"9"});
     QCOMPARE(seen.size(), 2); // the handler was removed
@@ -599,7 +468,10 @@ void TestSupportCore::helpContextId_data()
     QTest::newRow("zero") << QByteArray("0") << 0;
     QTest::newRow("name") << QByteArray("abc") << 21331;
     QTest::newRow("table") << QByteArray("TableDialogDims") << 7512;
+    QTest::newRow("empty") << QByteArray("") << 37261;
     QTest::newRow("mixed") << QByteArray("12a") << 1000 + int(YString("12a").hashValue() % 100000);
+    QTest::newRow("ten digits") << QByteArray("1234567890")
+                                << 1000 + int(YString("1234567890").hashValue() % 100000);
 }
 
 void TestSupportCore::helpContextId()
@@ -609,15 +481,13 @@ void TestSupportCore::helpContextId()
     QCOMPARE(sp_GetHelpContextId(YString(name.constData())), id);
 }
 
-// -------------------------------------------------------------------- files
-
 void TestSupportCore::extensions()
 {
-    QCOMPARE(QByteArray(sp_GetVantrellDefaultExtension("Schematic").c_str()), QByteArray(".sxsch"));
-    QCOMPARE(QByteArray(sp_GetVantrellDefaultExtension("Component").c_str()), QByteArray(".sxcmp"));
-    QCOMPARE(QByteArray(sp_GetVantrellDefaultExtension("Symbol").c_str()), QByteArray(".sxsym"));
-    QCOMPARE(QByteArray(sp_GetVantrellDefaultExtension("Nothing").c_str()), QByteArray(""));
-    QCOMPARE(QByteArray(sp_GetVantrellDefaultExtension(nullptr).c_str()), QByteArray(""));
+    QCOMPARE(bytes(sp_GetVantrellDefaultExtension("Schematic")), QByteArray(".sxsch"));
+    QCOMPARE(bytes(sp_GetVantrellDefaultExtension("Component")), QByteArray(".sxcmp"));
+    QCOMPARE(bytes(sp_GetVantrellDefaultExtension("Symbol")), QByteArray(".sxsym"));
+    QCOMPARE(bytes(sp_GetVantrellDefaultExtension("Nothing")), QByteArray(""));
+    QCOMPARE(bytes(sp_GetVantrellDefaultExtension(nullptr)), QByteArray(""));
 
     YList<YString> list;
     QVERIFY(sp_GetVantrellFileExtension("Schematic", &list));
@@ -630,90 +500,76 @@ void TestSupportCore::extensions()
     QVERIFY(list.isEmpty());
 }
 
-void TestSupportCore::files()
+void TestSupportCore::filesAndClipboard()
 {
-    QCOMPARE(toQs(sp_GetCwd()), QDir::currentPath());
     QTemporaryFile file;
     QVERIFY(file.open());
     QVERIFY(sp_ExistFile(file.fileName().toLocal8Bit().constData()));
     QVERIFY(!sp_ExistFile((file.fileName() + ".missing").toLocal8Bit().constData()));
-    QVERIFY(!sp_ExistFile(nullptr));
-    QVERIFY(!sp_ExistFile(""));
-}
+    QVERIFY(!sp_ExistFile(nullptr) && !sp_ExistFile(""));
 
-void TestSupportCore::clipboardWithoutGui()
-{
+    // Without a GUI application there is no clipboard; the text stays.
     YString text("keep");
     QVERIFY(!sp_PasteTextFromClipboard(&text));
-    QCOMPARE(QByteArray(text.c_str()), QByteArray("keep"));
+    QCOMPARE(bytes(text), QByteArray("keep"));
 }
 
-// -------------------------------------------------------------- call record
-
-namespace {
-char* g_strings[3];
-char** makeStrings(UserFunctionInterface*, int n)
+void TestSupportCore::callRecord_data()
 {
-    return n <= 3 ? g_strings : nullptr;
+    QTest::addColumn<int>("index");
+    QTest::addColumn<int>("argCount");
+    QTest::addColumn<uint>("strings");
+    QTest::addColumn<uint>("reals");
+    QTest::newRow("strings") << 0 << 3 << 2u << 0u;
+    QTest::newRow("reals") << 1 << 3 << 0u << 3u;
+    QTest::newRow("absent") << 2 << 3 << 0u << 0u;
+    QTest::newRow("beyond argCount") << 3 << 3 << 0u << 0u;
+    QTest::newRow("negative") << -1 << 3 << 0u << 0u;
+    QTest::newRow("beyond record") << udf::kMaxArgs << udf::kMaxArgs + 8 << 0u << 0u;
 }
-} // namespace
 
 void TestSupportCore::callRecord()
 {
-    UserFunctionInterface call{};
-    const char* strings[] = {"a", "b"};
-    double reals[] = {1.0, 2.0, 3.0};
-    call.args[0].data = strings;
-    call.args[0].count = 2;
-    call.args[0].kind = ArgKindStrings;
-    call.args[1].data = reals;
-    call.args[1].count = 3;
-    call.args[1].kind = ArgKindReal;
-    call.args[2].data = strings; // beyond argCount
-    call.args[2].count = 2;
-    call.args[2].kind = ArgKindStrings;
-    call.argCount = 2;
+    QFETCH(int, index);
+    QFETCH(int, argCount);
+    QFETCH(uint, strings);
+    QFETCH(uint, reals);
+    const char* texts[] = {"a", "b"};
+    double values[] = {1.0, 2.0, 3.0};
+    UserFunctionInterface call;
+    std::memset(&call, 0xA5, sizeof call); // a host zeroes nothing it doesn't fill
+    setArg(call.args[0], texts, 2, ArgKindStrings);
+    setArg(call.args[1], values, 3, ArgKindReal);
+    setArg(call.args[2], values, 0, ArgKindReal);
+    setArg(call.args[3], texts, 2, ArgKindStrings);
+    call.argCount = argCount;
 
     const char* const* s = reinterpret_cast<const char* const*>(1);
     unsigned n = 99;
-    sp_GetStringIfVector(&call, 0, &s, &n);
-    QCOMPARE(static_cast<const void*>(s), static_cast<const void*>(strings));
-    QCOMPARE(n, 2u);
-    sp_GetStringIfVector(&call, 1, &s, &n); // real, not strings
-    QVERIFY(!s);
-    QCOMPARE(n, 0u);
-    n = 99;
-    sp_GetStringIfVector(&call, 2, &s, &n);
-    QVERIFY(!s);
-    QCOMPARE(n, 0u);
-    sp_GetStringIfVector(&call, -1, &s, &n);
-    QVERIFY(!s);
-    sp_GetStringIfVector(&call, 40, &s, &n);
-    QVERIFY(!s);
-    sp_GetStringIfVector(nullptr, 0, &s, &n);
-    QVERIFY(!s);
-    QCOMPARE(n, 0u);
-    sp_GetStringIfVector(&call, 0, nullptr, nullptr);
-
+    sp_GetStringIfVector(&call, index, &s, &n);
+    QCOMPARE(static_cast<const void*>(s), strings ? static_cast<const void*>(texts) : nullptr);
+    QCOMPARE(n, strings);
     const double* r = reinterpret_cast<const double*>(1);
     n = 99;
-    sp_GetRealIfVector(&call, 1, &r, &n);
-    QCOMPARE(r, static_cast<const double*>(reals));
-    QCOMPARE(n, 3u);
-    sp_GetRealIfVector(&call, 0, &r, &n);
-    QVERIFY(!r);
-    QCOMPARE(n, 0u);
-    call.args[1].count = 0; // absent
-    n = 99;
-    sp_GetRealIfVector(&call, 1, &r, &n);
-    QVERIFY(!r);
-    QCOMPARE(n, 0u);
+    sp_GetRealIfVector(&call, index, &r, &n);
+    QCOMPARE(r, reals ? static_cast<const double*>(values) : nullptr);
+    QCOMPARE(n, reals);
+    sp_GetStringIfVector(&call, index, nullptr, nullptr);
+    sp_GetRealIfVector(&call, index, nullptr, nullptr);
+    sp_GetStringIfVector(nullptr, index, &s, &n);
+    QVERIFY(!s && n == 0);
+}
 
-    QVERIFY(!sp_MakeStringResult(&call, 1)); // no function
-    QVERIFY(!sp_MakeStringResult(nullptr, 1));
-    call.MakeStringArray = makeStrings;
-    QCOMPARE(sp_MakeStringResult(&call, 0), static_cast<char**>(g_strings));
-    QCOMPARE(sp_MakeStringResult(&call, 3), static_cast<char**>(g_strings));
+void TestSupportCore::stringResult()
+{
+    static char* strings[3];
+    UserFunctionInterface call{};
+    QVERIFY(!sp_MakeStringResult(&call, 3)); // no function
+    QVERIFY(!sp_MakeStringResult(nullptr, 3));
+    call.MakeStringArray = [](UserFunctionInterface*, int count) -> char** {
+        return count == 3 ? strings : nullptr;
+    };
+    QCOMPARE(sp_MakeStringResult(&call, 3), static_cast<char**>(strings));
 }
 
 QTEST_GUILESS_MAIN(TestSupportCore)

@@ -3,7 +3,6 @@
 #include "udf.h"
 
 #include <QApplication>
-#include <QButtonGroup>
 #include <QDialog>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -14,31 +13,15 @@
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
-#include <cstring>
-#include <memory>
+#include <functional>
 
 namespace {
 
-// A call record with string arguments, as the host builds it.
-struct FakeCall {
-    UserFunctionInterface call;
-    std::vector<std::vector<const char*>> storage;
-
-    FakeCall() { std::memset(&call, 0, sizeof call); }
-
-    void addStrings(std::vector<const char*> elements)
-    {
-        storage.push_back(std::move(elements));
-        ArgRecord& arg = call.args[call.argCount++];
-        arg.data = storage.back().data();
-        arg.count = static_cast<std::uint32_t>(storage.back().size());
-        arg.kind = ArgKindStrings;
-    }
-};
-
-QString shown(const Spinner& spinner)
+void setArg(ArgRecord& arg, void* data, std::uint32_t count, std::uint32_t kind)
 {
-    return spinner.findChild<QLineEdit*>(QStringLiteral("lineEdit"))->text();
+    arg.data = data;
+    arg.count = count;
+    arg.kind = kind;
 }
 
 void sendWheel(QWidget* target, int delta)
@@ -49,6 +32,13 @@ void sendWheel(QWidget* target, int delta)
     QApplication::sendEvent(target, &wheel);
 }
 
+QRadioButton* radio(const char* name, QWidget* parent)
+{
+    auto* button = new QRadioButton(name, parent);
+    button->setObjectName(name);
+    return button;
+}
+
 } // namespace
 
 class TestWidgets : public QObject {
@@ -56,42 +46,31 @@ class TestWidgets : public QObject {
 
 private slots:
     void cleanup();
-
-    void bindingDefaults();
-    void formBuildsAndPropertiesLand();
+    void formBindsAndOkIsDefault();
     void resourcesRegistered_data();
     void resourcesRegistered();
-
     void spinnerKeepsText_data();
     void spinnerKeepsText();
     void spinnerDisplay_data();
     void spinnerDisplay();
-    void spinnerDisplayFollowsLaterSettings();
     void spinnerStep_data();
     void spinnerStep();
-    void spinnerClampsAndReportsLimits();
-    void spinnerExpressions();
     void spinnerRestoresInvalidTypedText_data();
     void spinnerRestoresInvalidTypedText();
-    void spinnerSignalsOnTyping();
-    void spinnerKeysWheelAndButtons();
-
+    void spinnerUserInput();
     void radioGroupIdsInLayoutOrder();
     void radioGroupSetText_data();
     void radioGroupSetText();
     void radioGroupClickedByUser();
-    void radioGroupRenumbersAddedButtons();
-
     void listBoxMultiSelection();
     void listBoxSingleSelection();
-    void comboBoxItemsAndValue();
-    void comboBoxStripQuotes();
+    void comboBoxItems();
+    void comboBoxStringValue_data();
+    void comboBoxStringValue();
     void initialiseWidget_data();
     void initialiseWidget();
-
     void pushButtonEndsDialog_data();
     void pushButtonEndsDialog();
-    void okButtonBecomesDefault();
 };
 
 void TestWidgets::cleanup()
@@ -102,139 +81,100 @@ void TestWidgets::cleanup()
     QVERIFY(left.isEmpty());
 }
 
-// ------------------------------------------------------------ binding, form
-
-void TestWidgets::bindingDefaults()
-{
-    EditBox edit(nullptr, "editBoxName");
-    QCOMPARE(edit.objectName(), QStringLiteral("editBoxName"));
-    VT_FunctionDef* def = &edit;
-    QCOMPARE(def->argIndex(), -1);
-    QCOMPARE(def->inElementIndex(), -1);
-    QCOMPARE(def->outElementIndex(), -1);
-    QCOMPARE(def->bindingVersion(), 1);
-    QCOMPARE(def->isBindable(), true);
-    QCOMPARE(def->bindingPriority(), 10);
-    QCOMPARE(def->isReadOnlyBinding(), false);
-    QCOMPARE(def->initialiseWidget(nullptr), false);
-    QCOMPARE(def->collectsItself(), false);
-
-    // Forms set bindings as properties; the mix-in must see them.
-    QVERIFY(edit.setProperty("outElementIndex", 7));
-    QCOMPARE(def->outElementIndex(), 7);
-
-    Label label;
-    QCOMPARE(label.metaObject()->indexOfProperty("outElementIndex"), -1);
-    QVERIFY(label.setProperty("argIndex", 2));
-    QCOMPARE(static_cast<VT_FunctionDef&>(label).argIndex(), 2);
-
-    GroupBox group;
-    QVERIFY(group.isCheckable());
-
-    CheckBox check;
-    QCOMPARE(check.property("realValue").toDouble(), 0.0);
-    check.setRealValue(0.5);
-    QVERIFY(check.isChecked());
-    QCOMPARE(check.realValue(), 1.0);
-}
-
-void TestWidgets::formBuildsAndPropertiesLand()
+void TestWidgets::formBindsAndOkIsDefault()
 {
     QDialog dialog;
     Ui::WidgetForm form;
     form.setupUi(&dialog);
 
-    QCOMPARE(form.labelTitle->argIndex(), 0);
-    QCOMPARE(form.labelTitle->inElementIndex(), 0);
-    QCOMPARE(static_cast<VT_FunctionDef*>(form.labelTitle)->outElementIndex(), -1);
-
     Spinner* spinner = form.spinnerValue;
-    QCOMPARE(spinner->argIndex(), 0);
-    QCOMPARE(spinner->inElementIndex(), 1);
-    QCOMPARE(spinner->outElementIndex(), 2);
-    QCOMPARE(spinner->min(), 1.0);
-    QCOMPARE(spinner->max(), 100.0);
-    QVERIFY(spinner->step125());
-    QCOMPARE(spinner->precision(), 4);
+    const QList<int> binding = {spinner->argIndex(), spinner->inElementIndex(),
+                                spinner->outElementIndex()};
+    QCOMPARE(binding, QList<int>({0, 1, 2}));
+    // The value came before step125 and engMode in the file.
     QCOMPARE(spinner->text(), QStringLiteral("5"));
     spinner->pressUp();
     QCOMPARE(spinner->text(), QStringLiteral("10"));
-
-    QCOMPARE(form.comboBoxKind->itemsArgIndex(), 1);
-    QCOMPARE(form.comboBoxKind->itemsElementIndex(), 0);
-    QCOMPARE(form.listBoxProbes->itemsElementIndex(), 1);
-    QCOMPARE(form.listBoxProbes->outElementIndex(), 6);
-
     // realValue was set before the buttons existed.
-    QCOMPARE(form.radioGroupMode->count(), 3);
     QCOMPARE(form.radioGroupMode->selectedId(), 1);
     QVERIFY(form.radioSecond->isChecked());
-
     QVERIFY(form.cbFlag->isChecked());
-    QCOMPARE(form.okButton->actionText(), QString());
-    QCOMPARE(form.cancelButton->actionText(), QStringLiteral("reject"));
+    QVERIFY(GroupBox().isCheckable());
 
-    // What the host's walker finds: every bound widget through the mix-in.
+    // The host's walker finds every bound widget through the mix-in.
     int bound = 0;
-    for (QObject* child : dialog.findChildren<QObject*>()) {
-        if (dynamic_cast<VT_FunctionDef*>(child))
-            ++bound;
-    }
+    for (QObject* child : dialog.findChildren<QObject*>())
+        bound += dynamic_cast<VT_FunctionDef*>(child) ? 1 : 0;
     QCOMPARE(bound, 10);
+
+    // OK becomes the default although Cancel comes first.
+    dialog.open();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(form.okButton->isDefault());
+    QVERIFY(!form.cancelButton->isDefault());
+    form.comboBoxKind->setFocus();
+    QTest::keyClick(form.comboBoxKind, Qt::Key_Return);
+    QVERIFY(!dialog.isVisible());
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
 }
 
 void TestWidgets::resourcesRegistered_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("size");
-    QTest::newRow("up arrow") << ":/16x16_uparrow_transparent_bg.png" << 16;
-    QTest::newRow("down arrow") << ":/16x16_downarrow_transparent_bg.png" << 16;
-    QTest::newRow("rising edge") << ":/16x16_rising_edge_no_frame.png" << 16;
-    QTest::newRow("falling edge") << ":/16x16_falling_edge_no_frame.png" << 16;
-    QTest::newRow("shift left") << ":/shift_left_32.png" << 32;
-    QTest::newRow("shift right") << ":/shift_right_32.png" << 32;
-    QTest::newRow("stop") << ":/stop.png" << 32;
-    QTest::newRow("options") << ":/options.png" << 32;
-    QTest::newRow("warn") << ":/qmessagebox-warn_transparent_bg.png" << 32;
-    QTest::newRow("quest") << ":/qmessagebox-quest_transparent_bg.png" << 32;
-    QTest::newRow("info") << ":/qmessagebox-info_transparent_bg.png" << 32;
+    QTest::newRow("up arrow") << ":/16x16_uparrow_transparent_bg.png";
+    QTest::newRow("down arrow") << ":/16x16_downarrow_transparent_bg.png";
+    QTest::newRow("rising edge") << ":/16x16_rising_edge_no_frame.png";
+    QTest::newRow("falling edge") << ":/16x16_falling_edge_no_frame.png";
+    QTest::newRow("shift left") << ":/shift_left_32.png";
+    QTest::newRow("shift right") << ":/shift_right_32.png";
+    QTest::newRow("stop") << ":/stop.png";
+    QTest::newRow("options") << ":/options.png";
+    QTest::newRow("warn") << ":/qmessagebox-warn_transparent_bg.png";
+    QTest::newRow("quest") << ":/qmessagebox-quest_transparent_bg.png";
+    QTest::newRow("info") << ":/qmessagebox-info_transparent_bg.png";
 }
 
 void TestWidgets::resourcesRegistered()
 {
     QFETCH(QString, name);
-    QFETCH(int, size);
+    const int size = name.contains("16x16") ? 16 : 32;
     const QPixmap pixmap(name);
-    QVERIFY(!pixmap.isNull());
     QCOMPARE(pixmap.size(), QSize(size, size));
     QVERIFY(pixmap.hasAlpha());
 }
 
-// ------------------------------------------------------------------ Spinner
-
 void TestWidgets::spinnerKeepsText_data()
 {
+    QTest::addColumn<bool>("expressions");
     QTest::addColumn<QString>("text");
     QTest::addColumn<double>("value");
-    QTest::newRow("kilo") << "10k" << 1e4;
-    QTest::newRow("mega") << "1.5MEG" << 1.5e6;
-    QTest::newRow("micro") << "4.7u" << 4.7e-6;
-    QTest::newRow("with unit") << "10kOhm" << 1e4;
-    QTest::newRow("plain") << "0.25" << 0.25;
-    QTest::newRow("no number") << "abc" << 0.0;
-    QTest::newRow("empty") << "" << 0.0;
+    QTest::newRow("with unit") << false << "10kOhm" << 1e4;
+    QTest::newRow("plain") << false << "0.25" << 0.25;
+    QTest::newRow("no number") << false << "abc" << 0.0;
+    QTest::newRow("empty") << false << "" << 0.0;
+    QTest::newRow("braces not allowed") << false << "{a*2}" << 0.0;
+    QTest::newRow("expression") << true << "{a*2}" << 0.0;
 }
 
 void TestWidgets::spinnerKeepsText()
 {
+    QFETCH(bool, expressions);
     QFETCH(QString, text);
     QFETCH(double, value);
     Spinner spinner;
-    spinner.setEngMode(true);
+    spinner.setAllowExpressions(expressions);
     spinner.setText(text);
+    // Format settings made later leave a text given as text alone.
+    spinner.setEngMode(true);
+    spinner.setInteger(true);
+    spinner.setPrecision(2);
     QCOMPARE(spinner.text(), text);
-    QCOMPARE(shown(spinner), text);
     QCOMPARE(spinner.value(), value);
+    // Steps leave an expression alone and move anything else.
+    QSignalSpy changed(&spinner, &Spinner::changed);
+    spinner.pressUp();
+    spinner.pressDown();
+    QCOMPARE(changed.isEmpty(), expressions);
 }
 
 void TestWidgets::spinnerDisplay_data()
@@ -245,11 +185,8 @@ void TestWidgets::spinnerDisplay_data()
     QTest::addColumn<double>("value");
     QTest::addColumn<QString>("text");
     QTest::newRow("eng kilo") << false << true << 6 << 62831.853 << "62.8319k";
-    QTest::newRow("eng mega") << false << true << 6 << 1e6 << "1Meg";
-    QTest::newRow("eng zero") << false << true << 6 << 0.0 << "0";
-    QTest::newRow("plain") << false << false << 6 << 0.1 << "0.1";
+    QTest::newRow("eng precision 2") << false << true << 2 << 1234.5 << "1.2k";
     QTest::newRow("plain precision 3") << false << false << 3 << 3.14159 << "3.14";
-    QTest::newRow("plain large") << false << false << 6 << 1234567.0 << "1.23457e+06";
     QTest::newRow("integer rounds") << true << false << 6 << 2.6 << "3";
     QTest::newRow("integer no minus zero") << true << false << 6 << -0.2 << "0";
     QTest::newRow("integer wins over eng") << true << true << 6 << 12000.0 << "12000";
@@ -262,28 +199,18 @@ void TestWidgets::spinnerDisplay()
     QFETCH(int, precision);
     QFETCH(double, value);
     QFETCH(QString, text);
-    Spinner spinner;
-    spinner.setInteger(integer);
-    spinner.setEngMode(engMode);
-    spinner.setPrecision(precision);
-    spinner.setValue(value);
-    QCOMPARE(spinner.text(), text);
-}
-
-void TestWidgets::spinnerDisplayFollowsLaterSettings()
-{
-    // uic sets properties in file order: value may come before engMode.
-    Spinner spinner;
-    spinner.setValue(1234.5);
-    spinner.setEngMode(true);
-    QCOMPARE(spinner.text(), QStringLiteral("1.2345k"));
-    spinner.setPrecision(2);
-    QCOMPARE(spinner.text(), QStringLiteral("1.2k"));
-
-    // A text given as text stays as it was given.
-    spinner.setText("10k");
-    spinner.setInteger(true);
-    QCOMPARE(spinner.text(), QStringLiteral("10k"));
+    // uic sets properties in file order: the value may come before or after
+    // the settings that format it.
+    Spinner before, after;
+    after.setValue(value);
+    for (Spinner* spinner : {&before, &after}) {
+        spinner->setInteger(integer);
+        spinner->setEngMode(engMode);
+        spinner->setPrecision(precision);
+    }
+    before.setValue(value);
+    QCOMPARE(before.text(), text);
+    QCOMPARE(after.text(), text);
 }
 
 void TestWidgets::spinnerStep_data()
@@ -294,28 +221,20 @@ void TestWidgets::spinnerStep_data()
     QTest::addColumn<double>("expected");
 
     QTest::newRow("125 1 up") << "125" << 1.0 << 1 << 2.0;
-    QTest::newRow("125 2 up") << "125" << 2.0 << 1 << 5.0;
     QTest::newRow("125 5 up") << "125" << 5.0 << 1 << 10.0;
-    QTest::newRow("125 500 up") << "125" << 500.0 << 1 << 1000.0;
     QTest::newRow("125 1000 up") << "125" << 1000.0 << 1 << 2000.0;
     QTest::newRow("125 10 down") << "125" << 10.0 << -1 << 5.0;
-    QTest::newRow("125 1 down") << "125" << 1.0 << -1 << 0.5;
-    QTest::newRow("125 0.5 down") << "125" << 0.5 << -1 << 0.2;
     QTest::newRow("125 0.2 down") << "125" << 0.2 << -1 << 0.1;
     QTest::newRow("125 0.1 down") << "125" << 0.1 << -1 << 0.05;
     QTest::newRow("125 off 3 up") << "125" << 3.0 << 1 << 5.0;
     QTest::newRow("125 off 3 down") << "125" << 3.0 << -1 << 2.0;
-    QTest::newRow("125 off 7 up") << "125" << 7.0 << 1 << 10.0;
     QTest::newRow("125 zero up") << "125" << 0.0 << 1 << 1.0;
     QTest::newRow("125 zero down") << "125" << 0.0 << -1 << -1.0;
     QTest::newRow("125 -1 up") << "125" << -1.0 << 1 << -0.5;
-    QTest::newRow("125 -2 down") << "125" << -2.0 << -1 << -5.0;
     QTest::newRow("125 integer 1 down") << "125 integer" << 1.0 << -1 << 0.0;
     QTest::newRow("125 integer 0 down") << "125 integer" << 0.0 << -1 << -1.0;
     QTest::newRow("125 integer -1 down") << "125 integer" << -1.0 << -1 << -2.0;
-    QTest::newRow("125 integer 2 down") << "125 integer" << 2.0 << -1 << 1.0;
 
-    QTest::newRow("integer up") << "integer" << 3.0 << 1 << 4.0;
     QTest::newRow("integer down") << "integer" << -3.0 << -1 << -4.0;
     QTest::newRow("real 4.7 up") << "real" << 4.7 << 1 << 4.8;
     QTest::newRow("real 4.75 up") << "real" << 4.75 << 1 << 4.8;
@@ -325,9 +244,14 @@ void TestWidgets::spinnerStep_data()
     QTest::newRow("real 250 up") << "real" << 250.0 << 1 << 260.0;
     QTest::newRow("real -1 up") << "real" << -1.0 << 1 << -0.99;
     QTest::newRow("real zero up") << "real" << 0.0 << 1 << 1.0;
-    QTest::newRow("fixed up") << "fixed" << 1.0 << 1 << 1.25;
     QTest::newRow("fixed down") << "fixed" << 1.1 << -1 << 0.85;
     QTest::newRow("fixed beats 125") << "fixed 125" << 1.0 << 1 << 1.25;
+
+    // Limits 0.6 and 10: a step clamps, and reports running into a limit.
+    QTest::newRow("onto max") << "125 limited" << 5.0 << 1 << 10.0;
+    QTest::newRow("past max") << "125 limited maxHit" << 10.0 << 1 << 10.0;
+    QTest::newRow("past min") << "125 limited minHit" << 1.0 << -1 << 0.6;
+    QTest::newRow("at min") << "125 limited minHit" << 0.6 << -1 << 0.6;
 }
 
 void TestWidgets::spinnerStep()
@@ -339,58 +263,21 @@ void TestWidgets::spinnerStep()
     Spinner spinner;
     spinner.setStep125(mode.contains("125"));
     spinner.setInteger(mode.contains("integer"));
-    if (mode.startsWith("fixed"))
-        spinner.setStep(0.25);
+    spinner.setStep(mode.startsWith("fixed") ? 0.25 : 0.0);
+    if (mode.contains("limited")) {
+        spinner.setMin(0.6);
+        spinner.setMax(10);
+    }
     spinner.setValue(start);
+    QSignalSpy maxHit(&spinner, &Spinner::maxHit);
+    QSignalSpy minHit(&spinner, &Spinner::minHit);
     if (direction > 0)
         spinner.pressUp();
     else
         spinner.pressDown();
     QVERIFY2(qFuzzyCompare(1.0 + spinner.value(), 1.0 + expected), qPrintable(spinner.text()));
-}
-
-void TestWidgets::spinnerClampsAndReportsLimits()
-{
-    Spinner spinner;
-    spinner.setStep125(true);
-    spinner.setMin(0.6);
-    spinner.setMax(10);
-    QSignalSpy maxSpy(&spinner, &Spinner::maxHit);
-    QSignalSpy minSpy(&spinner, &Spinner::minHit);
-
-    spinner.setValue(5);
-    spinner.pressUp();
-    QCOMPARE(spinner.value(), 10.0);
-    QCOMPARE(maxSpy.count(), 0); // landed on the limit, didn't run past it
-    spinner.pressUp();
-    QCOMPARE(spinner.value(), 10.0);
-    QCOMPARE(maxSpy.count(), 1);
-
-    spinner.setValue(1);
-    spinner.pressDown();
-    QCOMPARE(spinner.value(), 0.6);
-    QCOMPARE(minSpy.count(), 1);
-    spinner.pressDown();
-    QCOMPARE(spinner.value(), 0.6);
-    QCOMPARE(minSpy.count(), 2);
-    QCOMPARE(maxSpy.count(), 1);
-}
-
-void TestWidgets::spinnerExpressions()
-{
-    Spinner spinner;
-    spinner.setAllowExpressions(true);
-    spinner.setText("{a*2}");
-    QCOMPARE(spinner.text(), QStringLiteral("{a*2}"));
-    QCOMPARE(spinner.value(), 0.0);
-    QSignalSpy changed(&spinner, &Spinner::changed);
-    spinner.pressUp();
-    spinner.pressDown();
-    QCOMPARE(spinner.text(), QStringLiteral("{a*2}"));
-    QCOMPARE(changed.count(), 0);
-
-    spinner.setText("22");
-    QCOMPARE(spinner.value(), 22.0);
+    QCOMPARE(maxHit.count(), mode.contains("maxHit") ? 1 : 0);
+    QCOMPARE(minHit.count(), mode.contains("minHit") ? 1 : 0);
 }
 
 void TestWidgets::spinnerRestoresInvalidTypedText_data()
@@ -413,58 +300,30 @@ void TestWidgets::spinnerRestoresInvalidTypedText()
     QFETCH(QString, result);
     QWidget window;
     auto* spinner = new Spinner(&window, "spinnerTyped");
-    auto* other = new QLineEdit(&window);
     auto* layout = new QVBoxLayout(&window);
     layout->addWidget(spinner);
-    layout->addWidget(other);
+    layout->addWidget(new QLineEdit(&window));
     spinner->setAllowExpressions(expressions);
     spinner->setText("10k");
     window.show();
     QVERIFY(QTest::qWaitForWindowActive(&window));
 
-    auto* edit = window.findChild<QLineEdit*>("lineEdit");
-    QVERIFY(edit);
+    QLineEdit* edit = spinner->lineEdit();
     spinner->setFocus();
     QVERIFY(edit->hasFocus());
     edit->selectAll();
     QTest::keyClick(edit, Qt::Key_Delete);
     QTest::keyClicks(edit, typed);
     QCOMPARE(edit->text(), typed);
-    // Moving on ends the edit.
     QTest::keyClick(edit, Qt::Key_Tab);
     QVERIFY(!edit->hasFocus());
     QCOMPARE(spinner->text(), result);
 }
 
-void TestWidgets::spinnerSignalsOnTyping()
-{
-    Spinner spinner;
-    spinner.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&spinner));
-    QSignalSpy changed(&spinner, &Spinner::changed);
-    QSignalSpy textChanged(&spinner, &Spinner::textChanged);
-    spinner.setText("");
-    QCOMPARE(changed.count(), 1);
-
-    auto* edit = spinner.findChild<QLineEdit*>("lineEdit");
-    QTest::keyClicks(edit, "12");
-    QCOMPARE(changed.count(), 3);
-    QCOMPARE(textChanged.count(), 3);
-    QCOMPARE(changed.last().at(0).toString(), QStringLiteral("12"));
-    QCOMPARE(textChanged.last().at(0).toString(), QStringLiteral("12"));
-
-    spinner.setValue(3);
-    QCOMPARE(changed.last().at(0).toString(), QStringLiteral("3"));
-    spinner.pressUp();
-    QCOMPARE(changed.last().at(0).toString(), QStringLiteral("3.1"));
-    QCOMPARE(textChanged.count(), changed.count());
-}
-
-void TestWidgets::spinnerKeysWheelAndButtons()
+void TestWidgets::spinnerUserInput()
 {
     Spinner spinner;
     spinner.setInteger(true);
-    spinner.setValue(5);
     spinner.resize(120, 30);
     spinner.show();
     QVERIFY(QTest::qWaitForWindowExposed(&spinner));
@@ -472,77 +331,62 @@ void TestWidgets::spinnerKeysWheelAndButtons()
     auto* up = spinner.findChild<QToolButton*>("upButton");
     auto* down = spinner.findChild<QToolButton*>("downButton");
     QVERIFY(edit && up && down);
-    QVERIFY(!up->icon().isNull());
     QCOMPARE(spinner.focusProxy(), edit);
-
-    QTest::keyClick(edit, Qt::Key_Up);
-    QCOMPARE(spinner.text(), QStringLiteral("6"));
-    QTest::keyClick(edit, Qt::Key_Down);
-    QTest::keyClick(edit, Qt::Key_Down);
-    QCOMPARE(spinner.text(), QStringLiteral("4"));
-
-    sendWheel(edit, 120);
-    QCOMPARE(spinner.text(), QStringLiteral("5"));
-    sendWheel(edit, -240);
-    QCOMPARE(spinner.text(), QStringLiteral("3"));
-    // Half notches add up.
-    sendWheel(edit, 60);
-    QCOMPARE(spinner.text(), QStringLiteral("3"));
-    sendWheel(edit, 60);
-    QCOMPARE(spinner.text(), QStringLiteral("4"));
-
-    QTest::mouseClick(up, Qt::LeftButton);
-    QCOMPARE(spinner.text(), QStringLiteral("5"));
-    QTest::mouseClick(down, Qt::LeftButton);
-    QTest::mouseClick(down, Qt::LeftButton);
-    QCOMPARE(spinner.text(), QStringLiteral("3"));
-
-    // The buttons sit right of the text, up above down.
     QVERIFY(up->geometry().left() >= edit->geometry().right());
     QVERIFY(up->geometry().top() < down->geometry().top());
-}
 
-// --------------------------------------------------------------- RadioGroup
+    QSignalSpy changed(&spinner, &Spinner::changed);
+    QSignalSpy textChanged(&spinner, &Spinner::textChanged);
+    spinner.setText("");
+    QTest::keyClicks(edit, "5");
+    QCOMPARE(changed.count(), 2);
+    QCOMPARE(textChanged.last().at(0).toString(), QStringLiteral("5"));
+
+    const std::pair<std::function<void()>, QString> steps[] = {
+        {[edit] { QTest::keyClick(edit, Qt::Key_Up); }, "6"},
+        {[edit] { QTest::keyClick(edit, Qt::Key_Down); }, "5"},
+        {[edit] { sendWheel(edit, -240); }, "3"},
+        {[edit] { sendWheel(edit, 60); }, "3"}, // half notches add up
+        {[edit] { sendWheel(edit, 60); }, "4"},
+        {[up] { QTest::mouseClick(up, Qt::LeftButton); }, "5"},
+        {[down] { QTest::mouseClick(down, Qt::LeftButton); }, "4"},
+    };
+    for (const auto& [act, text] : steps) {
+        act();
+        QCOMPARE(spinner.text(), text);
+    }
+    QCOMPARE(changed.last().at(0).toString(), QStringLiteral("4"));
+    QCOMPARE(textChanged.count(), changed.count());
+}
 
 void TestWidgets::radioGroupIdsInLayoutOrder()
 {
     RadioGroup group(nullptr, "radioGroupTest");
     auto* grid = new QGridLayout(&group);
-    // Created in an order unlike the layout's.
-    auto* last = new RadioButton(&group);
-    last->setObjectName("last");
-    auto* second = new QRadioButton("second", &group);
-    second->setObjectName("second");
-    auto* first = new RadioButton(&group);
-    first->setObjectName("first");
+    // Added in an order unlike the grid's.
+    grid->addWidget(radio("last", &group), 3, 0);
+    auto* nested = new RadioGroup(&group, "nested");
+    (new QVBoxLayout(nested))->addWidget(radio("not a member", nested));
+    grid->addWidget(nested, 2, 1);
+    grid->addWidget(radio("second", &group), 0, 1);
     auto* box = new QWidget(&group);
     auto* boxLayout = new QHBoxLayout(box);
-    auto* third = new QRadioButton("third", box);
-    third->setObjectName("third");
-    auto* fourth = new QRadioButton("fourth", box);
-    fourth->setObjectName("fourth");
-    boxLayout->addWidget(third);
+    boxLayout->addWidget(radio("third", box));
+    QRadioButton* fourth = radio("fourth", box);
     boxLayout->addWidget(fourth);
-    auto* nested = new RadioGroup(&group, "nested");
-    auto* nestedLayout = new QVBoxLayout(nested);
-    nestedLayout->addWidget(new QRadioButton("not a member", nested));
-    auto* loose = new QRadioButton("loose", &group); // in no layout
-    loose->setObjectName("loose");
-
-    grid->addWidget(last, 3, 0);
-    grid->addWidget(nested, 2, 1);
-    grid->addWidget(second, 0, 1);
     grid->addWidget(box, 1, 0, 1, 2);
-    grid->addWidget(first, 0, 0);
+    grid->addWidget(radio("first", &group), 0, 0);
+    radio("loose", &group); // in no layout
 
-    QCOMPARE(group.count(), 6);
-    const QStringList expected = {"first", "second", "third", "fourth", "last", "loose"};
-    for (int id = 0; id < expected.size(); ++id)
-        QCOMPARE(group.button(id)->objectName(), expected[id]);
+    auto names = [&group] {
+        QStringList list;
+        for (int id = 0; id < group.count(); ++id)
+            list << group.button(id)->objectName();
+        return list;
+    };
+    QCOMPARE(names(), (QStringList{"first", "second", "third", "fourth", "last", "loose"}));
     QCOMPARE(group.button(6), nullptr);
     QCOMPARE(group.button(-1), nullptr);
-    QCOMPARE(group.selectedId(), -1);
-    QCOMPARE(group.text(), QStringLiteral("-1"));
     QCOMPARE(group.property("stringValue").toString(), QStringLiteral("-1"));
 
     group.setButton(3);
@@ -550,6 +394,15 @@ void TestWidgets::radioGroupIdsInLayoutOrder()
     // Ids aren't shared with the nested group.
     QCOMPARE(nested->count(), 1);
     QCOMPARE(nested->selectedId(), -1);
+
+    // A button added after first use renumbers; the selection stays on its button.
+    grid->addWidget(radio("added", &group), 0, 2);
+    QCOMPARE(names(),
+             (QStringList{"first", "second", "added", "third", "fourth", "last", "loose"}));
+    QCOMPARE(group.selectedId(), 4);
+    delete group.button(2);
+    QCOMPARE(group.count(), 6);
+    QCOMPARE(group.selectedId(), 3);
 }
 
 void TestWidgets::radioGroupSetText_data()
@@ -561,7 +414,6 @@ void TestWidgets::radioGroupSetText_data()
     QTest::newRow("none") << "-1" << -1;
     QTest::newRow("beyond") << "3" << 1;
     QTest::newRow("not a number") << "two" << 1;
-    QTest::newRow("empty") << "" << 1;
     QTest::newRow("fraction") << "1.5" << 1;
     QTest::newRow("very negative") << "-7" << 1;
 }
@@ -572,12 +424,11 @@ void TestWidgets::radioGroupSetText()
     QFETCH(int, selected);
     RadioGroup group;
     auto* layout = new QVBoxLayout(&group);
-    for (int i = 0; i < 3; ++i)
-        layout->addWidget(new RadioButton(&group));
+    for (const char* name : {"a", "b", "c"})
+        layout->addWidget(radio(name, &group));
     group.setValue(1.0);
     QCOMPARE(group.selectedId(), 1);
     group.setText(text);
-    QCOMPARE(group.selectedId(), selected);
     QCOMPARE(group.text(), QString::number(selected));
     QCOMPARE(group.value(), double(selected));
 }
@@ -586,56 +437,29 @@ void TestWidgets::radioGroupClickedByUser()
 {
     RadioGroup group;
     auto* layout = new QVBoxLayout(&group);
-    QList<QRadioButton*> buttons;
-    for (int i = 0; i < 3; ++i) {
-        buttons.append(new QRadioButton(QStringLiteral("choice %1").arg(i), &group));
-        layout->addWidget(buttons.last());
-    }
+    const QList<QRadioButton*> buttons = {radio("a", &group), radio("b", &group),
+                                          radio("c", &group)};
+    for (QRadioButton* button : buttons)
+        layout->addWidget(button);
     group.show();
     QVERIFY(QTest::qWaitForWindowExposed(&group));
     QSignalSpy clicked(&group, &RadioGroup::clicked);
 
     QTest::mouseClick(buttons[1], Qt::LeftButton);
-    QCOMPARE(clicked.count(), 1);
-    QCOMPARE(clicked.last().at(0).toInt(), 1);
     QCOMPARE(group.selectedId(), 1);
-
     buttons[2]->setFocus();
     QTest::keyClick(buttons[2], Qt::Key_Space);
-    QCOMPARE(clicked.count(), 2);
-    QCOMPARE(clicked.last().at(0).toInt(), 2);
     QVERIFY(!buttons[1]->isChecked());
-
-    // Set from code: no click.
-    group.setButton(0);
+    group.setButton(0); // from code: no click
     QCOMPARE(clicked.count(), 2);
+    QCOMPARE(clicked[0].at(0).toInt(), 1);
+    QCOMPARE(clicked[1].at(0).toInt(), 2);
 }
-
-void TestWidgets::radioGroupRenumbersAddedButtons()
-{
-    RadioGroup group;
-    auto* layout = new QVBoxLayout(&group);
-    auto* a = new RadioButton(&group);
-    layout->addWidget(a);
-    group.assignIds();
-    QCOMPARE(group.count(), 1);
-    auto* b = new RadioButton(&group);
-    layout->insertWidget(0, b);
-    QCOMPARE(group.count(), 2);
-    QCOMPARE(group.button(0), b);
-    QCOMPARE(group.button(1), a);
-    delete b;
-    QCOMPARE(group.count(), 1);
-    QCOMPARE(group.button(0), a);
-}
-
-// ---------------------------------------------------------- ComboBox, ListBox
 
 void TestWidgets::listBoxMultiSelection()
 {
-    ListBox list(nullptr, "listBoxMulti");
+    ListBox list;
     list.loadStrings("alpha|beta|gamma|delta");
-    QCOMPARE(list.count(), 4);
     list.setSelectionMode(QAbstractItemView::ExtendedSelection);
     list.show();
     QVERIFY(QTest::qWaitForWindowExposed(&list));
@@ -648,34 +472,16 @@ void TestWidgets::listBoxMultiSelection()
     };
     clickRow(3, Qt::NoModifier);
     clickRow(1, Qt::ControlModifier);
-    QCOMPARE(list.currentText(), QStringLiteral("beta|delta"));
     QCOMPARE(list.property("stringValue").toString(), QStringLiteral("beta|delta"));
     QCOMPARE(list.selectedItem(), list.item(1));
 
     list.setStringValue("gamma|alpha");
     QCOMPARE(list.currentText(), QStringLiteral("alpha|gamma"));
     list.setStringValue("");
-    QCOMPARE(list.currentText(), QString());
     QCOMPARE(list.selectedItem(), nullptr);
 
-    // Other list operations, with out-of-range and foreign arguments.
-    QListWidgetItem* gamma = list.findItem("gamma", Qt::MatchExactly);
-    QVERIFY(gamma);
-    QCOMPARE(list.findItem("GAMMA", Qt::MatchExactly), nullptr);
-    QCOMPARE(list.findItem("al", Qt::MatchStartsWith), list.item(0));
-    QCOMPARE(list.index(gamma), 2);
-    QCOMPARE(list.index(nullptr), -1);
-    QListWidgetItem stranger("stranger");
-    QCOMPARE(list.index(&stranger), -1);
-    list.setSelected(&stranger, true);
-    list.setSelected(nullptr, true);
-    list.setSelected(gamma, true);
+    list.setSelected(list.findItem("ga", Qt::MatchStartsWith), true);
     QCOMPARE(list.currentText(), QStringLiteral("gamma"));
-    list.removeItem(-1);
-    list.removeItem(4);
-    list.removeItem(2);
-    QCOMPARE(list.count(), 3);
-    QCOMPARE(list.currentText(), QString());
 }
 
 void TestWidgets::listBoxSingleSelection()
@@ -684,7 +490,6 @@ void TestWidgets::listBoxSingleSelection()
     list.loadStrings("one|two|two|three");
     list.setStringValue("two");
     QCOMPARE(list.currentRow(), 1);
-    QCOMPARE(list.currentText(), QStringLiteral("two"));
     list.setStringValue("missing");
     QCOMPARE(list.currentRow(), 1);
     list.setStringValue("three");
@@ -695,72 +500,59 @@ void TestWidgets::listBoxSingleSelection()
 
     list.loadStrings(nullptr);
     QCOMPARE(list.count(), 0);
-    QCOMPARE(list.currentText(), QString());
     list.loadStrings("a||b");
     QCOMPARE(list.count(), 3);
     QCOMPARE(list.item(1)->text(), QString());
 }
 
-void TestWidgets::comboBoxItemsAndValue()
+void TestWidgets::comboBoxItems()
 {
-    ComboBox combo(nullptr, "comboBoxTest");
+    ComboBox combo;
     combo.loadStrings("one|two|three");
-    QCOMPARE(combo.count(), 3);
-    QCOMPARE(combo.text(2), QStringLiteral("three"));
-    QCOMPARE(combo.text(3), QString());
-    QCOMPARE(combo.text(-1), QString());
-
-    combo.setStringValue("two");
-    QCOMPARE(combo.currentIndex(), 1);
-    combo.setStringValue("TWO");
-    QCOMPARE(combo.currentIndex(), 1);
-    combo.setStringValue("zzz");
-    QCOMPARE(combo.currentIndex(), 1);
     combo.setValue(2);
-    QCOMPARE(combo.currentText(), QStringLiteral("three"));
     combo.setValue(3);
     combo.setValue(-1);
-    QCOMPARE(combo.currentIndex(), 2);
-
+    QCOMPARE(combo.currentText(), QStringLiteral("three"));
     combo.insertItem("last", -1);
     combo.insertItem("first", 0);
-    combo.insertItem("far", 99);
     QCOMPARE(combo.text(0), QStringLiteral("first"));
     QCOMPARE(combo.text(4), QStringLiteral("last"));
-    QCOMPARE(combo.text(5), QStringLiteral("far"));
-
-    combo.setEditable(true);
-    combo.setStringValue("typed");
-    QCOMPARE(combo.currentText(), QStringLiteral("typed"));
-    QCOMPARE(combo.property("stringValue").toString(), QStringLiteral("typed"));
-
     combo.loadStrings("");
-    QCOMPARE(combo.count(), 0);
-    combo.loadStrings(nullptr);
     QCOMPARE(combo.count(), 0);
 }
 
-void TestWidgets::comboBoxStripQuotes()
+void TestWidgets::comboBoxStringValue_data()
 {
-    ComboBox combo;
-    combo.loadStrings("\"abc\"|'0_TO_1'|plain|\"odd'|\"");
-    combo.setStringValue("\"abc\"");
-    QCOMPARE(combo.stringValue(), QStringLiteral("\"abc\""));
-    combo.setStripQuotes(true);
-    QVERIFY(combo.stripQuotes());
-    QCOMPARE(combo.stringValue(), QStringLiteral("abc"));
-    QCOMPARE(combo.currentText(), QStringLiteral("\"abc\""));
+    QTest::addColumn<bool>("stripQuotes");
+    QTest::addColumn<bool>("editable");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QString>("value");
+    QTest::newRow("exact") << false << false << "two" << 1 << "two";
+    QTest::newRow("case matters") << false << false << "TWO" << 0 << "one";
+    QTest::newRow("editable takes text") << false << true << "zzz" << 0 << "zzz";
+    QTest::newRow("quotes kept") << false << false << "\"abc\"" << 2 << "\"abc\"";
+    QTest::newRow("bare needs stripQuotes") << false << false << "abc" << 0 << "one";
+    QTest::newRow("quotes stripped") << true << false << "\"abc\"" << 2 << "abc";
+    QTest::newRow("bare finds quoted") << true << false << "0_TO_1" << 3 << "0_TO_1";
+    QTest::newRow("mixed quotes kept") << true << false << "\"odd'" << 4 << "\"odd'";
+    QTest::newRow("lone quote kept") << true << false << "\"" << 5 << "\"";
+}
 
-    // A value collected without quotes loads back onto its item.
-    combo.setStringValue("0_TO_1");
-    QCOMPARE(combo.currentIndex(), 1);
-    QCOMPARE(combo.stringValue(), QStringLiteral("0_TO_1"));
-    combo.setValue(2);
-    QCOMPARE(combo.stringValue(), QStringLiteral("plain"));
-    combo.setValue(3);
-    QCOMPARE(combo.stringValue(), QStringLiteral("\"odd'"));
-    combo.setValue(4);
-    QCOMPARE(combo.stringValue(), QStringLiteral("\""));
+void TestWidgets::comboBoxStringValue()
+{
+    QFETCH(bool, stripQuotes);
+    QFETCH(bool, editable);
+    QFETCH(QString, text);
+    QFETCH(int, index);
+    QFETCH(QString, value);
+    ComboBox combo;
+    combo.setEditable(editable);
+    combo.setStripQuotes(stripQuotes);
+    combo.loadStrings("one|two|\"abc\"|'0_TO_1'|\"odd'|\"");
+    combo.setStringValue(text);
+    QCOMPARE(combo.currentIndex(), index);
+    QCOMPARE(combo.property("stringValue").toString(), value);
 }
 
 void TestWidgets::initialiseWidget_data()
@@ -775,9 +567,6 @@ void TestWidgets::initialiseWidget_data()
     QTest::newRow("element beyond count") << 1 << 3 << false << 1;
     QTest::newRow("negative element") << 1 << -1 << false << 1;
     QTest::newRow("no items argument") << -1 << 0 << false << 1;
-    QTest::newRow("argument beyond argCount") << 3 << 0 << false << 1;
-    QTest::newRow("argument beyond record") << 40 << 0 << false << 1;
-    QTest::newRow("real argument") << 2 << 0 << false << 1;
     QTest::newRow("null element") << 0 << 1 << false << 1;
 }
 
@@ -787,35 +576,25 @@ void TestWidgets::initialiseWidget()
     QFETCH(int, itemsElement);
     QFETCH(bool, loaded);
     QFETCH(int, count);
-
-    FakeCall fake;
-    fake.addStrings({"title", nullptr});
-    fake.addStrings({"x|y", "a|b|c", ""});
-    double reals[] = {1.0, 2.0};
-    ArgRecord& real = fake.call.args[fake.call.argCount++];
-    real.data = reals;
-    real.count = 2;
-    real.kind = ArgKindReal;
+    const char* title[] = {"title", nullptr};
+    const char* items[] = {"x|y", "a|b|c", ""};
+    UserFunctionInterface call{};
+    setArg(call.args[0], title, 2, ArgKindStrings);
+    setArg(call.args[1], items, 3, ArgKindStrings);
+    call.argCount = 2;
 
     ComboBox combo;
-    combo.addItem("form item");
-    combo.setItemsArgIndex(itemsArg);
-    combo.setItemsElementIndex(itemsElement);
-    VT_FunctionDef* comboDef = &combo;
-    QCOMPARE(comboDef->initialiseWidget(&fake.call), loaded);
-    QCOMPARE(combo.count(), count);
-    QCOMPARE(comboDef->initialiseWidget(nullptr), false);
-
     ListBox list;
+    combo.addItem("form item");
     list.addItem("form item");
-    list.setItemsArgIndex(itemsArg);
-    list.setItemsElementIndex(itemsElement);
-    VT_FunctionDef* listDef = &list;
-    QCOMPARE(listDef->initialiseWidget(&fake.call), loaded);
+    for (QObject* widget : {static_cast<QObject*>(&combo), static_cast<QObject*>(&list)}) {
+        QVERIFY(widget->setProperty("itemsArgIndex", itemsArg));
+        QVERIFY(widget->setProperty("itemsElementIndex", itemsElement));
+        QCOMPARE(dynamic_cast<VT_FunctionDef*>(widget)->initialiseWidget(&call), loaded);
+    }
+    QCOMPARE(combo.count(), count);
     QCOMPARE(list.count(), count);
 }
-
-// ----------------------------------------------------------------- buttons
 
 void TestWidgets::pushButtonEndsDialog_data()
 {
@@ -823,22 +602,14 @@ void TestWidgets::pushButtonEndsDialog_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("action");
     QTest::addColumn<bool>("ownSlot");
-    QTest::addColumn<bool>("ends");
-    QTest::addColumn<int>("result");
-    QTest::newRow("reject action") << "PushButton" << "cancelButton" << "reject" << false << true
-                                   << int(QDialog::Rejected);
-    QTest::newRow("ok by name") << "PushButton" << "okButton" << "" << false << true
-                                << int(QDialog::Accepted);
-    QTest::newRow("ok with own check") << "PushButton" << "okButton" << "" << true << false
-                                       << int(QDialog::Rejected);
-    QTest::newRow("other button") << "PushButton" << "applyButton" << "" << false << false
-                                  << int(QDialog::Rejected);
-    QTest::newRow("unknown action") << "PushButton" << "okButton" << "apply" << false << false
-                                    << int(QDialog::Rejected);
-    QTest::newRow("OkButton") << "OkButton" << "anyName" << "" << true << true
-                              << int(QDialog::Accepted);
-    QTest::newRow("CancelButton") << "CancelButton" << "okButton" << "" << false << true
-                                  << int(QDialog::Rejected);
+    QTest::addColumn<QString>("outcome");
+    QTest::newRow("reject") << "PushButton" << "cancelButton" << "reject" << false << "reject";
+    QTest::newRow("ok by name") << "PushButton" << "okButton" << "" << false << "accept";
+    QTest::newRow("ok with own check") << "PushButton" << "okButton" << "" << true << "open";
+    QTest::newRow("other button") << "PushButton" << "applyButton" << "" << false << "open";
+    QTest::newRow("unknown action") << "PushButton" << "okButton" << "apply" << false << "open";
+    QTest::newRow("OkButton") << "OkButton" << "anyName" << "" << true << "accept";
+    QTest::newRow("CancelButton") << "CancelButton" << "okButton" << "" << false << "reject";
 }
 
 void TestWidgets::pushButtonEndsDialog()
@@ -847,52 +618,26 @@ void TestWidgets::pushButtonEndsDialog()
     QFETCH(QString, name);
     QFETCH(QString, action);
     QFETCH(bool, ownSlot);
-    QFETCH(bool, ends);
-    QFETCH(int, result);
-
+    QFETCH(QString, outcome);
     QDialog dialog;
-    auto* layout = new QVBoxLayout(&dialog);
-    PushButton* button = nullptr;
     const QByteArray objectName = name.toLatin1();
-    if (kind == "OkButton")
-        button = new OkButton(&dialog, objectName.constData());
-    else if (kind == "CancelButton")
-        button = new CancelButton(&dialog, objectName.constData());
-    else
-        button = new PushButton(&dialog, objectName.constData());
+    PushButton* button = kind == "OkButton"
+        ? new OkButton(&dialog, objectName.constData())
+        : kind == "CancelButton" ? new CancelButton(&dialog, objectName.constData())
+                                 : new PushButton(&dialog, objectName.constData());
     button->setText("Press");
     button->setActionText(action);
-    layout->addWidget(button);
+    (new QVBoxLayout(&dialog))->addWidget(button);
     int ownCalls = 0;
     if (ownSlot)
         connect(button, &QPushButton::clicked, &dialog, [&ownCalls] { ++ownCalls; });
 
     dialog.open();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    auto* found = dialog.findChild<PushButton*>(name);
-    QCOMPARE(found, button);
-    QTest::mouseClick(found, Qt::LeftButton);
-    QCOMPARE(dialog.isVisible(), !ends);
-    QCOMPARE(dialog.result(), result);
+    QTest::mouseClick(button, Qt::LeftButton);
+    QCOMPARE(dialog.isVisible(), outcome == "open");
+    QCOMPARE(dialog.result(), int(outcome == "accept" ? QDialog::Accepted : QDialog::Rejected));
     QCOMPARE(ownCalls, ownSlot ? 1 : 0);
-    dialog.close();
-}
-
-void TestWidgets::okButtonBecomesDefault()
-{
-    QDialog dialog;
-    Ui::WidgetForm form;
-    form.setupUi(&dialog);
-    dialog.open();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    QVERIFY(form.okButton->isDefault());
-    QVERIFY(!form.cancelButton->isDefault());
-
-    // Return in a field presses the default button.
-    form.comboBoxKind->setFocus();
-    QTest::keyClick(form.comboBoxKind, Qt::Key_Return);
-    QVERIFY(!dialog.isVisible());
-    QCOMPARE(dialog.result(), int(QDialog::Accepted));
 }
 
 QTEST_MAIN(TestWidgets)
