@@ -55,7 +55,6 @@ namespace {
 // Everything one call hands out. Buffers stay put (deque) until the call
 // ends, because a handler may keep any pointer it was given until it returns.
 struct CallContext {
-    Engine* engine = nullptr;
     const std::map<std::string, HostFunction>* hostFunctions = nullptr;
 
     std::vector<std::vector<char*>> argStrings;
@@ -353,7 +352,6 @@ CallResult Engine::call(const std::string& name, const std::vector<ScriptValue>&
     }
 
     CallContext c;
-    c.engine = this;
     c.hostFunctions = &d->hostFunctions;
 
     UserFunctionInterface ufi;

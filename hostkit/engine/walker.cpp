@@ -4,6 +4,7 @@
 
 #include "hostsupport.h"
 #include "hostwidgets.h"
+#include "kitsupport.h"
 
 #include <QDialog>
 #include <QPointer>
@@ -28,19 +29,6 @@ std::vector<std::pair<QWidget*, VT_FunctionDef*>> boundWidgets(QDialog* dialog)
             out.emplace_back(w, def);
     }
     return out;
-}
-
-// Element index of argument argIndex, or null when either is absent.
-const char* element(UserFunctionInterface* call, int argIndex, int index)
-{
-    if (!call || argIndex < 0 || index < 0)
-        return nullptr;
-    const char* const* data = nullptr;
-    unsigned count = 0;
-    sp_GetStringIfVector(call, argIndex, &data, &count);
-    if (!data || static_cast<unsigned>(index) >= count)
-        return nullptr;
-    return data[index];
 }
 
 void load(QWidget* w, const char* e)
@@ -101,7 +89,7 @@ void loadBoundWidgets(QDialog* dialog, UserFunctionInterface* call)
         // Items first, so that the element can name one of them.
         if (qobject_cast<ComboBox*>(w) || qobject_cast<ListBox*>(w))
             def->initialiseWidget(call);
-        if (const char* e = element(call, def->argIndex(), def->inElementIndex()))
+        if (const char* e = stringElement(call, def->argIndex(), def->inElementIndex()))
             load(w, e);
     }
 }

@@ -1,5 +1,6 @@
 // Reading arguments of the call record and making the string result.
 #include "hostsupport.h"
+#include "kitsupport.h"
 #include "udf.h"
 
 namespace {
@@ -46,4 +47,16 @@ char** sp_MakeStringResult(UserFunctionInterface* call, int n)
     if (!call || !call->MakeStringArray)
         return nullptr;
     return call->MakeStringArray(call, n);
+}
+
+const char* vtkit::stringElement(UserFunctionInterface* call, int argIndex, int index)
+{
+    if (!call || argIndex < 0 || index < 0)
+        return nullptr;
+    const char* const* data = nullptr;
+    unsigned count = 0;
+    sp_GetStringIfVector(call, argIndex, &data, &count);
+    if (!data || static_cast<unsigned>(index) >= count)
+        return nullptr;
+    return data[index];
 }

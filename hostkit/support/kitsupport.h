@@ -17,6 +17,10 @@ namespace vtkit {
 VT_SUPPORT_API void setConfigDir(const QString& dir);
 VT_SUPPORT_API QString configDir();
 
+// Element index of string argument argIndex of a call, or null when the
+// argument or the element is absent. Never reads outside the argument.
+VT_SUPPORT_API const char* stringElement(UserFunctionInterface* call, int argIndex, int index);
+
 // Every topic passed to sp_RunHelp since the last clear, oldest first.
 VT_SUPPORT_API QStringList helpRequests();
 VT_SUPPORT_API void clearHelpRequests();

@@ -1,6 +1,7 @@
 #include "hostwidgets.h"
 
 #include "hostsupport.h"
+#include "kitsupport.h"
 #include "udf.h"
 
 #include <QLineEdit>
@@ -18,17 +19,16 @@ QStringList splitItems(const char* items)
     return QString::fromLatin1(items).split(QLatin1Char('|'), Qt::KeepEmptyParts);
 }
 
-// Element elementIndex of string argument argIndex, or null.
-const char* itemsElement(UserFunctionInterface* call, int argIndex, int elementIndex)
+// Replaces the items of a combo or list box with those of the element that
+// its items binding names; false when that element is absent.
+template <typename Box>
+bool loadItemsFromCall(Box* box, UserFunctionInterface* call, int argIndex, int elementIndex)
 {
-    if (!call || argIndex < 0 || elementIndex < 0)
-        return nullptr;
-    const char* const* data = nullptr;
-    unsigned count = 0;
-    sp_GetStringIfVector(call, argIndex, &data, &count);
-    if (!data || static_cast<unsigned>(elementIndex) >= count)
-        return nullptr;
-    return data[elementIndex];
+    const char* items = vtkit::stringElement(call, argIndex, elementIndex);
+    if (!items)
+        return false;
+    box->loadStrings(items);
+    return true;
 }
 
 QString withoutQuotes(const QString& text)
@@ -56,11 +56,7 @@ ComboBox::~ComboBox() = default;
 
 bool ComboBox::initialiseWidget(UserFunctionInterface* call)
 {
-    const char* items = itemsElement(call, m_itemsArgIndex, m_itemsElementIndex);
-    if (!items)
-        return false;
-    loadStrings(items);
-    return true;
+    return loadItemsFromCall(this, call, m_itemsArgIndex, m_itemsElementIndex);
 }
 
 void ComboBox::loadStrings(const char* items)
@@ -121,11 +117,7 @@ ListBox::~ListBox() = default;
 
 bool ListBox::initialiseWidget(UserFunctionInterface* call)
 {
-    const char* items = itemsElement(call, m_itemsArgIndex, m_itemsElementIndex);
-    if (!items)
-        return false;
-    loadStrings(items);
-    return true;
+    return loadItemsFromCall(this, call, m_itemsArgIndex, m_itemsElementIndex);
 }
 
 void ListBox::loadStrings(const char* items)

@@ -31,22 +31,16 @@ void setUp(QPainter& p)
     p.setRenderHint(QPainter::Antialiasing, true);
 }
 
-void drawUpArrow(QPainter& p, int size)
+// A filled triangle pointing up or down, for the spin buttons.
+void drawArrow(QPainter& p, int size, bool up)
 {
     const qreal s = size;
+    const qreal tip = up ? 0.25 : 0.75;
+    const qreal base = up ? 0.72 : 0.28;
     p.setPen(Qt::NoPen);
     p.setBrush(ink());
-    p.drawPolygon(QPolygonF({QPointF(s * 0.5, s * 0.25), QPointF(s * 0.88, s * 0.72),
-                             QPointF(s * 0.12, s * 0.72)}));
-}
-
-void drawDownArrow(QPainter& p, int size)
-{
-    const qreal s = size;
-    p.setPen(Qt::NoPen);
-    p.setBrush(ink());
-    p.drawPolygon(QPolygonF({QPointF(s * 0.12, s * 0.28), QPointF(s * 0.88, s * 0.28),
-                             QPointF(s * 0.5, s * 0.75)}));
+    p.drawPolygon(QPolygonF({QPointF(s * 0.5, s * tip), QPointF(s * 0.88, s * base),
+                             QPointF(s * 0.12, s * base)}));
 }
 
 // A logic edge: low, a vertical transition with an arrow head, high. On
@@ -200,8 +194,8 @@ int main(int argc, char** argv)
     }
     const QString directory = QString::fromLocal8Bit(argv[1]);
     const Picture pictures[] = {
-        {"16x16_uparrow_transparent_bg.png", 16, drawUpArrow},
-        {"16x16_downarrow_transparent_bg.png", 16, drawDownArrow},
+        {"16x16_uparrow_transparent_bg.png", 16, [](QPainter& p, int s) { drawArrow(p, s, true); }},
+        {"16x16_downarrow_transparent_bg.png", 16, [](QPainter& p, int s) { drawArrow(p, s, false); }},
         {"16x16_rising_edge_no_frame.png", 16, [](QPainter& p, int s) { drawEdge(p, s, true); }},
         {"16x16_falling_edge_no_frame.png", 16, [](QPainter& p, int s) { drawEdge(p, s, false); }},
         {"shift_left_32.png", 32, [](QPainter& p, int s) { drawShift(p, s, true); }},
