@@ -1,5 +1,6 @@
 // Select2Dialog, ListSubsetDialog, TableDialog and TableEditor, called
 // through the engine on the built module and answered as a user would.
+#include "dialogtest.h"
 #include "dialogs.h"
 #include "engine.h"
 #include "hostsupport.h"
@@ -16,36 +17,10 @@
 #include <limits>
 #include <memory>
 
-using vtkit::CallResult;
-using vtkit::ScriptValue;
-using Args = std::vector<ScriptValue>;
+using namespace dialogtest;
 Q_DECLARE_METATYPE(Args)
 
 namespace {
-
-ScriptValue strings(const QStringList& texts)
-{
-    std::vector<std::string> out;
-    for (const QString& text : texts)
-        out.push_back(text.toStdString());
-    return ScriptValue::fromStrings(out);
-}
-
-Args stringArgs(const QList<QStringList>& args)
-{
-    Args out;
-    for (const QStringList& arg : args)
-        out.push_back(strings(arg));
-    return out;
-}
-
-QStringList textsOf(const CallResult& result)
-{
-    QStringList out;
-    for (const std::string& s : result.value.strings)
-        out << QString::fromStdString(s);
-    return out;
-}
 
 // TableDialog's arguments: the counts, then the rows when there are any.
 Args tableArgs(std::vector<double> counts, const QStringList& rows = {})

@@ -1,0 +1,123 @@
+// Shared by the dialog tests: script values from Qt strings, and one call
+// through the engine answered by a step script, with every event line the
+// driver reports (message boxes, help requests, inspected widgets) kept for
+// the test to look at.
+#pragma once
+
+#include "dialogs.h"
+#include "engine.h"
+
+#include <QApplication>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QList>
+#include <QStringList>
+#include <QWidget>
+#include <QtTest>
+
+#include <string>
+#include <vector>
+
+namespace dialogtest {
+
+using vtkit::CallResult;
+using vtkit::ScriptValue;
+using Args = std::vector<ScriptValue>;
+
+inline ScriptValue strings(const QStringList& texts)
+{
+    std::vector<std::string> out;
+    out.reserve(static_cast<size_t>(texts.size()));
+    for (const QString& text : texts)
+        out.push_back(text.toStdString());
+    return ScriptValue::fromStrings(out);
+}
+
+inline Args stringArgs(const QList<QStringList>& args)
+{
+    Args out;
+    for (const QStringList& arg : args)
+        out.push_back(strings(arg));
+    return out;
+}
+
+inline QStringList textsOf(const CallResult& result)
+{
+    QStringList out;
+    for (const std::string& s : result.value.strings)
+        out << QString::fromStdString(s);
+    return out;
+}
+
+// What one answered call gave.
+struct Answered {
+    bool ok = false;           // the driver carried out every step and the call ran
+    QString failure;           // why not, for the test's message
+    CallResult result;
+    QList<QJsonObject> events; // each line the driver reported, in order
+
+    // The event lines whose first key is kind ("message", "help", "inspect").
+    QList<QJsonObject> eventsOf(const QString& kind) const
+    {
+        QList<QJsonObject> out;
+        for (const QJsonObject& e : events)
+            if (e.contains(kind))
+                out << e;
+        return out;
+    }
+    // The last inspect line for that object name ("" for the dialog), or {}.
+    QJsonObject inspected(const QString& object) const
+    {
+        QJsonObject found;
+        for (const QJsonObject& e : events)
+            if (e.value(QLatin1String("inspect")).toString(QStringLiteral("\x01")) == object)
+                found = e;
+        return found;
+    }
+};
+
+// Runs function through engine, answering its dialogs with the JSON steps.
+inline Answered answer(vtkit::Engine& engine, const char* function, const Args& args,
+                       const QByteArray& steps)
+{
+    Answered out;
+    vtkit::AnswerScript script;
+    QString error;
+    if (!vtkit::AnswerScript::fromJson(steps, &script, &error)) {
+        out.failure = QStringLiteral("bad answer script: ") + error;
+        return out;
+    }
+    vtkit::DialogDriver driver(script, [&out](const QByteArray& line) {
+        out.events << QJsonDocument::fromJson(line).object();
+    });
+    out.result = driver.call(engine, function, args);
+    out.ok = !driver.failed() && out.result.status == CallResult::Status::Ok;
+    if (!out.ok)
+        out.failure = driver.failure() + QStringLiteral(" / call: ")
+                      + QString::fromStdString(out.result.error);
+    return out;
+}
+
+// Loads the built module into engine, with the dialog runner of the host.
+inline bool loadModule(vtkit::Engine& engine)
+{
+    std::string error;
+    if (!engine.load(VT_MODULE_PATH, &error)) {
+        qWarning("cannot load the module: %s", error.c_str());
+        return false;
+    }
+    engine.setDialogRunner(&vtkit::runBoundDialog);
+    return true;
+}
+
+// For each test's cleanup(): no dialog may outlive its test.
+inline bool noTopLevelsLeft()
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    const QWidgetList left = QApplication::topLevelWidgets();
+    for (const QWidget* widget : left)
+        qWarning() << "left open:" << widget;
+    return left.isEmpty();
+}
+
+} // namespace dialogtest
