@@ -28,4 +28,10 @@ VT_SUPPORT_API void clearHelpRequests();
 // "help: TOPIC" on stderr. An empty function restores the default.
 VT_SUPPORT_API void setHelpHandler(std::function<void(const QString& topic)> handler);
 
+// Installs the translation of the module and the kit for lang ("de",
+// "de_DE", "xx" for the pseudo-translation), else for the system locale
+// when lang is empty. Looks in dir, else in ../translations beside the
+// running program. False when there is none to load (English needs none).
+VT_SUPPORT_API bool installTranslations(const QString& lang, const QString& dir = QString());
+
 } // namespace vtkit
