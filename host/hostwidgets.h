@@ -407,9 +407,10 @@ private:
 // ----------------------------------------------------------------- buttons
 
 // actionText tells what a click does to the dialog the button is in:
-// "reject" rejects it; empty on a button named "okButton" accepts it, unless
-// the dialog connected clicked() itself to check first. OkButton and
-// CancelButton always accept and reject.
+// "reject" rejects it; empty on an ok button (named okButton, okButton1,
+// okButton2 or okbutton) accepts it, unless the dialog connected clicked()
+// itself to check first; any other button only emits clicked(). OkButton
+// and CancelButton always accept and reject.
 class VT_WIDGETS_API PushButton : public QPushButton, public VT_FunctionDef {
     Q_OBJECT
     Q_PROPERTY(int argIndex READ argIndex WRITE setArgIndex)

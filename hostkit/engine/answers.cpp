@@ -24,6 +24,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QKeySequence>
+#include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
 #include <QListView>
@@ -32,15 +33,21 @@
 #include <QPixmap>
 #include <QPlainTextEdit>
 #include <QPointer>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QStyle>
+#include <QStackedWidget>
 #include <QStyleOptionButton>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QTableView>
+#include <QTreeView>
 #include <QTest>
 #include <QTextEdit>
 #include <QTimer>
 #include <QWindow>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 
@@ -70,6 +77,7 @@ struct StepRule {
 
 constexpr StepRule kRules[] = {
     {"wait", 'n', {}},
+    {"inspect", 's', {}},
     {"set", 'n', {{"text", 's', true}}},
     {"click", 'n', {}},
     {"check", 'n', {{"on", 'b', false}}},
@@ -420,6 +428,214 @@ QStringList viewItems(const QAbstractItemView* v)
     return items;
 }
 
+// The names forms give their ok and cancel buttons, typo included.
+bool isCancelName(const QString& name)
+{
+    return name.startsWith(QLatin1String("cancelButton")) || name == QLatin1String("cacnelButton");
+}
+
+bool boxButtonEnds(QDialogButtonBox* box, QAbstractButton* b, bool accept)
+{
+    const auto sb = box->standardButton(b);
+    if (accept ? (sb == QDialogButtonBox::Ok || sb == QDialogButtonBox::Save || sb == QDialogButtonBox::Yes)
+               : (sb == QDialogButtonBox::Cancel || sb == QDialogButtonBox::Close || sb == QDialogButtonBox::No))
+        return true;
+    if (sb != QDialogButtonBox::NoButton)
+        return false;
+    const auto role = box->buttonRole(b);
+    return accept ? role == QDialogButtonBox::AcceptRole || role == QDialogButtonBox::YesRole
+                  : role == QDialogButtonBox::RejectRole || role == QDialogButtonBox::NoRole;
+}
+
+// The button a person presses for Ok (or Cancel), by the first rule that
+// finds a visible one: the form's own ok button by name, the form's
+// default button, the one button reading "Ok", a button box's Ok. hiddenOnly tells
+// that some rule found buttons, all hidden. Buttons of other windows (a
+// message box parented to the dialog) don't count.
+QAbstractButton* endButton(QWidget* dialog, bool accept, const std::function<bool(QPushButton*)>& isDefault,
+                           bool* hiddenOnly)
+{
+    QList<QAbstractButton*> own;
+    const auto all = dialog->findChildren<QAbstractButton*>();
+    for (QAbstractButton* b : all)
+        if (b->window() == dialog)
+            own << b;
+    const bool messageBox = qobject_cast<QMessageBox*>(dialog) != nullptr;
+    *hiddenOnly = false;
+    auto firstVisible = [&](const std::function<bool(QAbstractButton*)>& rule, bool single) {
+        QList<QAbstractButton*> hits;
+        for (QAbstractButton* b : own)
+            if (rule(b))
+                hits << b;
+        QList<QAbstractButton*> shown;
+        for (QAbstractButton* b : hits)
+            if (b->isVisible())
+                shown << b;
+        if (shown.isEmpty() && !hits.isEmpty())
+            *hiddenOnly = true;
+        return shown.isEmpty() || (single && shown.size() > 1) ? nullptr : shown.first();
+    };
+    QAbstractButton* hit = nullptr;
+    if (accept) {
+        static const char* const okNames[] = {"okButton", "okButton1", "okButton2", "okbutton"};
+        for (const char* okName : okNames)
+            if (!hit)
+                hit = firstVisible([okName](QAbstractButton* b) { return b->objectName() == QLatin1String(okName); }, false);
+    } else {
+        hit = firstVisible([](QAbstractButton* b) { return isCancelName(b->objectName()); }, false);
+    }
+    if (!hit && accept && !messageBox)
+        hit = firstVisible([&isDefault](QAbstractButton* b) {
+            auto* pb = qobject_cast<QPushButton*>(b);
+            return pb && isDefault(pb);
+        }, false);
+    if (!hit && !messageBox)
+        hit = firstVisible([accept](QAbstractButton* b) {
+            const QString t = plain(b->text());
+            return accept ? t == QLatin1String("Ok") || t == QLatin1String("OK") : t == QLatin1String("Cancel");
+        }, true);
+    if (!hit)
+        hit = firstVisible([accept](QAbstractButton* b) {
+            auto* box = qobject_cast<QDialogButtonBox*>(b->parentWidget());
+            return box && boxButtonEnds(box, b, accept);
+        }, false);
+    return hit;
+}
+
+// Every row of a tree, depth first, two spaces of indent per level, so
+// that a line reads as the tree looks.
+void treeItems(const QAbstractItemModel* model, const QModelIndex& parent, int depth,
+               QStringList* out)
+{
+    const int rows = model->rowCount(parent);
+    for (int r = 0; r < rows; ++r) {
+        const QModelIndex index = model->index(r, 0, parent);
+        *out << QString(2 * depth, QLatin1Char(' ')) + index.data(Qt::DisplayRole).toString();
+        if (depth < 64)
+            treeItems(model, index, depth + 1, out);
+    }
+}
+
+QJsonValue jsonList(const QStringList& texts)
+{
+    return QJsonArray::fromStringList(texts);
+}
+
+// The texts of the selected rows in model order.
+QStringList selectedTexts(const QAbstractItemView* v)
+{
+    QStringList out;
+    if (!v->selectionModel())
+        return out;
+    QModelIndexList rows = v->selectionModel()->selectedIndexes();
+    std::sort(rows.begin(), rows.end());
+    QList<QPersistentModelIndex> seen;
+    for (const QModelIndex& index : rows) {
+        const QModelIndex first = index.siblingAtColumn(0);
+        if (seen.contains(first))
+            continue;
+        seen << first;
+        out << index.data(Qt::DisplayRole).toString();
+    }
+    return out;
+}
+
+QJsonValue inspectText(const QWidget* w)
+{
+    if (auto* s = qobject_cast<const Spinner*>(w))
+        return s->text();
+    if (auto* le = qobject_cast<const QLineEdit*>(w))
+        return le->text();
+    if (auto* sb = qobject_cast<const QAbstractSpinBox*>(w))
+        return sb->text();
+    if (auto* l = qobject_cast<const QLabel*>(w))
+        return l->text();
+    if (auto* b = qobject_cast<const QAbstractButton*>(w))
+        return b->text();
+    if (auto* c = qobject_cast<const QComboBox*>(w))
+        return c->currentText();
+    if (auto* pt = qobject_cast<const QPlainTextEdit*>(w))
+        return pt->toPlainText();
+    if (auto* te = qobject_cast<const QTextEdit*>(w))
+        return te->toPlainText();
+    if (auto* g = qobject_cast<const QGroupBox*>(w))
+        return g->title();
+    return QJsonValue::Null;
+}
+
+QJsonValue inspectChecked(const QWidget* w)
+{
+    if (auto* b = qobject_cast<const QAbstractButton*>(w); b && b->isCheckable())
+        return b->isChecked();
+    if (auto* g = qobject_cast<const QGroupBox*>(w); g && g->isCheckable())
+        return g->isChecked();
+    return QJsonValue::Null;
+}
+
+QJsonValue inspectCurrent(const QWidget* w)
+{
+    if (auto* rg = qobject_cast<const RadioGroup*>(w))
+        return rg->selectedId();
+    if (auto* c = qobject_cast<const QComboBox*>(w))
+        return c->currentIndex();
+    if (auto* t = qobject_cast<const QTabWidget*>(w))
+        return t->currentIndex();
+    if (auto* st = qobject_cast<const QStackedWidget*>(w))
+        return st->currentIndex();
+    return QJsonValue::Null;
+}
+
+QJsonValue inspectItems(const QWidget* w)
+{
+    if (auto* c = qobject_cast<const QComboBox*>(w))
+        return jsonList(comboItems(c));
+    if (auto* t = qobject_cast<const QTabWidget*>(w)) {
+        QStringList titles;
+        for (int i = 0; i < t->count(); ++i)
+            titles << t->tabText(i);
+        return jsonList(titles);
+    }
+    if (auto* l = qobject_cast<const QListView*>(w))
+        return jsonList(viewItems(l));
+    if (auto* tree = qobject_cast<const QTreeView*>(w); tree && tree->model()) {
+        QStringList rows;
+        treeItems(tree->model(), tree->rootIndex(), 0, &rows);
+        return jsonList(rows);
+    }
+    return QJsonValue::Null;
+}
+
+QJsonValue inspectSelected(const QWidget* w)
+{
+    if (qobject_cast<const QListView*>(w) || qobject_cast<const QTreeView*>(w))
+        return jsonList(selectedTexts(static_cast<const QAbstractItemView*>(w)));
+    return QJsonValue::Null;
+}
+
+// One line, the keys in the order a reader looks for them (a QJsonObject
+// would sort them).
+QByteArray inspectLine(const QString& object, const QWidget* w, bool isDialog)
+{
+    const std::pair<const char*, QJsonValue> fields[] = {
+        {"inspect", object},
+        {"class", className(w)},
+        {"objectName", w->objectName()},
+        {"hidden", w->isHidden()},
+        {"visible", w->isVisible()},
+        {"enabled", w->isEnabled()},
+        {"text", isDialog ? QJsonValue(w->objectName()) : inspectText(w)},
+        {"checked", isDialog ? QJsonValue() : inspectChecked(w)},
+        {"current", isDialog ? QJsonValue() : inspectCurrent(w)},
+        {"items", isDialog ? QJsonValue() : inspectItems(w)},
+        {"selected", isDialog ? QJsonValue() : inspectSelected(w)},
+        {"title", isDialog ? QJsonValue(w->windowTitle()) : QJsonValue()},
+    };
+    QStringList parts;
+    for (const auto& [key, value] : fields)
+        parts << quoted(QLatin1String(key)) + QLatin1Char(':') + jsonText(value);
+    return (QLatin1Char('{') + parts.join(QLatin1Char(',')) + QLatin1Char('}')).toUtf8();
+}
+
 // What a step came to: carried out (with the part that may block in a
 // nested event loop left to run once the step is counted), to be tried
 // again on the next tick, or failed.
@@ -517,6 +733,46 @@ bool AnswerScript::fromJson(const QByteArray& json, AnswerScript* out, QString* 
 
 // ---------------------------------------------------------------- driver
 
+namespace {
+
+// Sees every window that shows while a call runs. A shown QDialog makes the
+// first auto-default button of its focus chain the default when the form
+// chose none, and a focused button borrows the default; the form's own
+// choice is taken just before that, once the window's showEvent is over.
+class WindowWatch : public QObject {
+public:
+    QList<QPointer<QWidget>> shown;             // in the order they showed
+    QList<QPointer<QPushButton>> formDefaults; // of every window shown
+    QList<QPointer<QWidget>> snapped;          // windows whose defaults are taken
+
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        const QEvent::Type type = event->type();
+        if ((type != QEvent::Show && type != QEvent::ShowToParent) || !object->isWidgetType())
+            return false;
+        auto* w = static_cast<QWidget*>(object);
+        if (!w->isWindow())
+            return false;
+        if (type == QEvent::Show) {
+            shown.removeAll(w);
+            shown.removeAll(nullptr);
+            shown << w;
+            return false;
+        }
+        if (snapped.contains(w))
+            return false; // later shows find Qt's choice in place
+        snapped << w;
+        const auto buttons = w->findChildren<QPushButton*>();
+        for (QPushButton* b : buttons)
+            if (b->window() == w && b->isDefault() && !formDefaults.contains(b))
+                formDefaults << b;
+        formDefaults.removeAll(nullptr);
+        return false;
+    }
+};
+
+} // namespace
+
 struct DialogDriver::Private {
     AnswerScript script;
     EventSink sink;
@@ -526,6 +782,7 @@ struct DialogDriver::Private {
     QString failure;
     bool closing = false;
     QObject* context = nullptr; // owns the tick timers of one run
+    WindowWatch* watch = nullptr; // a child of context
     QElapsedTimer stepClock;    // since the next step became next
     QElapsedTimer idleClock;    // since the last step, or since a dialog came
     QPointer<QWidget> seen;     // the modal window of the last tick
@@ -538,7 +795,11 @@ struct DialogDriver::Private {
 
     void emitLine(const QJsonObject& object)
     {
-        const QByteArray line = QJsonDocument(object).toJson(QJsonDocument::Compact);
+        emitLine(QJsonDocument(object).toJson(QJsonDocument::Compact));
+    }
+
+    void emitLine(const QByteArray& line)
+    {
         if (sink)
             sink(line);
         else
@@ -602,6 +863,7 @@ struct DialogDriver::Private {
     Outcome stepMessage(QWidget* dialog, const QString& button);
     Outcome stepEnd(QWidget* dialog, bool accept);
     Outcome selectRows(QAbstractItemView* v, const QString& name, const QStringList& texts);
+    Outcome chooseTab(QTabBar* bar, const QString& name, const QStringList& texts, int index);
 };
 
 // By object name; else by shown text of a button or group box; else the
@@ -780,6 +1042,13 @@ Outcome DialogDriver::Private::perform(const QJsonObject& step, QWidget* dialog)
 
     const QString name = value.toString();
     QString why;
+    if (action == QLatin1String("inspect")) {
+        QWidget* w = name.isEmpty() ? dialog : find(dialog, name, &why);
+        if (!w)
+            return stepFailed(why);
+        emitLine(inspectLine(name, w, w == dialog));
+        return stepDone();
+    }
     QWidget* w = find(dialog, name, &why);
     if (!w)
         return stepFailed(why);
@@ -872,6 +1141,9 @@ Outcome DialogDriver::Private::stepChoose(QWidget* w, const QString& name, const
         index = step.value(QLatin1String("index")).toInt();
     }
 
+    auto* tabs = qobject_cast<QTabWidget*>(w);
+    if (QTabBar* bar = tabs ? tabs->tabBar() : qobject_cast<QTabBar*>(w))
+        return chooseTab(bar, name, texts, index);
     if (auto* c = qobject_cast<QComboBox*>(w)) {
         if (texts.size() > 1)
             return stepFailed(quoted(name) + QStringLiteral(" is a combo box and takes one item"));
@@ -896,7 +1168,41 @@ Outcome DialogDriver::Private::stepChoose(QWidget* w, const QString& name, const
         }
         return selectRows(v, name, texts);
     }
-    return stepFailed(QStringLiteral("%1 (%2) is neither a combo box nor a list").arg(quoted(name), className(w)));
+    return stepFailed(QStringLiteral("%1 (%2) is not a combo box, list or tab widget").arg(quoted(name), className(w)));
+}
+
+// A click on the tab, as a person switches pages; a tab scrolled out of
+// sight is made current as the scroll buttons and a click would.
+Outcome DialogDriver::Private::chooseTab(QTabBar* bar, const QString& name, const QStringList& texts,
+                                         int index)
+{
+    QStringList titles;
+    for (int i = 0; i < bar->count(); ++i)
+        titles << bar->tabText(i);
+    if (texts.size() > 1)
+        return stepFailed(quoted(name) + QStringLiteral(" shows one page at a time"));
+    for (int i = 0; !texts.isEmpty() && index < 0 && i < titles.size(); ++i)
+        if (titles[i] == texts.first() || plain(titles[i]) == texts.first())
+            index = i;
+    if (index < 0 || index >= bar->count())
+        return stepFailed(QStringLiteral("no tab %1 in %2 (tabs: %3)")
+                          .arg(texts.isEmpty() ? QString::number(index) : quoted(texts.first()),
+                               quoted(name), itemList(titles)));
+    const QString tab = QStringLiteral("tab %1 of %2").arg(quoted(plain(titles[index])), quoted(name));
+    if (!bar->isTabVisible(index))
+        return stepFailed(tab + QStringLiteral(" is hidden"));
+    if (!bar->isTabEnabled(index))
+        return stepFailed(tab + QStringLiteral(" is disabled"));
+    QPointer<QTabBar> p(bar);
+    return stepDone([p, index] {
+        if (!p)
+            return;
+        const QRect r = p->tabRect(index);
+        if (r.isValid() && p->rect().contains(r.center()))
+            QTest::mouseClick(p, Qt::LeftButton, Qt::NoModifier, r.center());
+        if (p && p->currentIndex() != index)
+            p->setCurrentIndex(index);
+    });
 }
 
 // As clicks would: the first row plainly, more with Ctrl; in multi
@@ -1168,50 +1474,33 @@ Outcome DialogDriver::Private::stepMessage(QWidget* dialog, const QString& butto
 
 Outcome DialogDriver::Private::stepEnd(QWidget* dialog, bool accept)
 {
-    QAbstractButton* button = nullptr;
-    QString why;
-    const QString name = accept ? QStringLiteral("okButton") : QStringLiteral("cancelButton");
-    const auto named = dialog->findChildren<QAbstractButton*>(name);
-    for (QAbstractButton* b : named)
-        if (!button || (b->isVisible() && !button->isVisible()))
-            button = b;
-    const auto boxes = dialog->findChildren<QDialogButtonBox*>();
-    for (int i = 0; !button && i < boxes.size(); ++i) {
-        QDialogButtonBox* bb = boxes[i];
-        const QList<QAbstractButton*> all = bb->buttons();
-        for (QAbstractButton* b : all) {
-            const auto sb = bb->standardButton(b);
-            const bool hit = accept ? (sb == QDialogButtonBox::Ok || sb == QDialogButtonBox::Save
-                                       || sb == QDialogButtonBox::Yes)
-                                    : (sb == QDialogButtonBox::Cancel || sb == QDialogButtonBox::Close
-                                       || sb == QDialogButtonBox::No);
-            if (hit) {
-                button = b;
-                break;
-            }
-        }
-        for (int j = 0; !button && j < all.size(); ++j) {
-            const auto role = bb->buttonRole(all[j]);
-            if (accept ? role == QDialogButtonBox::AcceptRole || role == QDialogButtonBox::YesRole
-                       : role == QDialogButtonBox::RejectRole || role == QDialogButtonBox::NoRole)
-                button = all[j];
-        }
-    }
+    const bool seenShown = watch && watch->shown.contains(dialog);
+    const auto isDefault = [this, seenShown](QPushButton* b) {
+        return seenShown ? watch->formDefaults.contains(b) : b->isDefault();
+    };
+    bool hiddenOnly = false;
+    QAbstractButton* button = endButton(dialog, accept, isDefault, &hiddenOnly);
+    const QString role = accept ? QStringLiteral("ok button") : QStringLiteral("cancel button");
     if (button) {
-        const Outcome u = usable(button, plain(button->text()).isEmpty() ? name : plain(button->text()));
+        const QString shown = plain(button->text());
+        const Outcome u = usable(button, shown.isEmpty() ? button->objectName() : shown);
         if (u.kind == Outcome::Failed)
             return u;
         if (auto* box = qobject_cast<QMessageBox*>(dialog))
-            reportBox(box, plain(button->text()));
+            reportBox(box, shown);
         QPointer<QAbstractButton> p(button);
         return stepDone([p] {
             if (p)
                 clickButton(p);
         });
     }
+    // Nobody can press a hidden Ok; a dialog without a visible Cancel is
+    // still closed by Escape or its title bar, which reject it.
+    if (accept && hiddenOnly)
+        return stepFailed(QStringLiteral("the %1 of %2 is hidden").arg(role, quoted(windowName(dialog))));
     QPointer<QDialog> d = qobject_cast<QDialog*>(dialog);
     if (!d)
-        return stepFailed(QStringLiteral("%1 is not a dialog and has no %2").arg(quoted(windowName(dialog)), name));
+        return stepFailed(QStringLiteral("%1 is not a dialog and has no %2").arg(quoted(windowName(dialog)), role));
     return stepDone([d, accept] {
         if (d && accept)
             d->accept();
@@ -1253,6 +1542,9 @@ void DialogDriver::run(const std::function<void()>& body)
     Private* p = d.get();
     delete p->context;
     p->context = new QObject;
+    p->watch = new WindowWatch;
+    p->watch->setParent(p->context);
+    qApp->installEventFilter(p->watch);
     p->next = 0;
     p->failure.clear();
     p->closing = false;
@@ -1271,6 +1563,7 @@ void DialogDriver::run(const std::function<void()>& body)
         {
             delete p->context;
             p->context = nullptr;
+            p->watch = nullptr;
             setHelpHandler({});
         }
     } restore{p};

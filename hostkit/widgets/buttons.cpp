@@ -18,11 +18,22 @@ PushButton::PushButton(QWidget* parent, const char* name, Ending ending)
 
 PushButton::~PushButton() = default;
 
+namespace {
+
+// The names forms give an ok button. Every other PushButton with no action
+// text is an ordinary button that only reports its click.
+bool isOkButtonName(const QString& name)
+{
+    return name == QLatin1String("okButton") || name == QLatin1String("okButton1")
+        || name == QLatin1String("okButton2") || name == QLatin1String("okbutton");
+}
+
+} // namespace
+
 bool PushButton::acceptsDialog() const
 {
     return m_ending == Ending::Accept
-        || (m_ending == Ending::ByActionText && m_actionText.isEmpty()
-            && objectName() == QLatin1String("okButton"));
+        || (m_ending == Ending::ByActionText && m_actionText.isEmpty() && isOkButtonName(objectName()));
 }
 
 void PushButton::endDialog()

@@ -13,6 +13,9 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStackedWidget>
+#include <QTabWidget>
+#include <QTreeWidget>
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QVBoxLayout>
@@ -211,8 +214,87 @@ void buildDrivenForm(const QString& form, QDialog* d, QStringList* log)
             const QColor c = QColorDialog::getColor(Qt::red, d, "Pick", QColorDialog::DontUseNativeDialog);
             return "color:" + (c.isValid() ? c.name() : "invalid");
         });
+    } else if (form == QLatin1String("tabs")) {
+        auto* tabs = new QTabWidget(d);
+        tabs->setObjectName("tabs");
+        for (const char* title : {"First", "&Second", "Third"}) {
+            auto* page = new QWidget;
+            const QByteArray edit = "edit" + QByteArray::number(tabs->count());
+            (new QVBoxLayout(page))->addWidget(bound(new EditBox(page, edit.constData()), -1, -1, tabs->count()));
+            tabs->addTab(page, title);
+        }
+        tabs->setTabEnabled(2, false);
+        QObject::connect(tabs, &QTabWidget::currentChanged, d, [log](int i) { *log << QStringLiteral("page:%1").arg(i); });
+    } else if (form == QLatin1String("inspect")) {
+        bound(new Spinner(d, "spinner"), -1, -1, -1, "4.7k");
+        (new Label(d, "label"))->setText("<b>Hi</b>");
+        auto* check = bound(new CheckBox(d, "check"), -1, -1, -1, "&Enable");
+        check->setChecked(true);
+        check->setEnabled(false);
+        auto* combo = new ComboBox(d, "combo");
+        combo->loadStrings("a|b|c");
+        combo->setCurrentIndex(1);
+        auto* list = new ListBox(d, "list");
+        list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+        list->loadStrings("x|y|z");
+        list->item(2)->setSelected(true);
+        list->item(0)->setSelected(true);
+        auto* radios = new RadioGroup(d, "radios");
+        radios->setTitle("Mode");
+        addRadios(radios, 2);
+        radios->setButton(1);
+        auto* text = new TextEdit(d, "text");
+        text->setPlainText("two\nlines");
+        (new QPushButton("&Hidden", d))->hide();
+        auto* stack = new QStackedWidget(d);
+        stack->setObjectName("stack");
+        stack->addWidget(new QLabel("one"));
+        stack->addWidget(new QLabel("two"));
+        stack->setCurrentIndex(1);
+        auto* tree = new QTreeWidget(d);
+        tree->setObjectName("tree");
+        auto* top = new QTreeWidgetItem(tree, {"Page"});
+        new QTreeWidgetItem(new QTreeWidgetItem(top, {"Group"}), {"p1"});
+        new QTreeWidgetItem(tree, {"Other"});
+        top->setSelected(true);
+        auto* tabs = new QTabWidget(d);
+        tabs->setObjectName("tabs");
+        tabs->addTab(new QWidget, "&Main");
+        auto* second = new QWidget;
+        (new QVBoxLayout(second))->addWidget(new EditBox(second, "onPage2"));
+        tabs->addTab(second, "Extra");
+    } else if (form.startsWith(QLatin1String("ends:"))) {
+        // Plain buttons "objectName/Text", in this order in the focus chain;
+        // "=a" makes the form accept on it, "=r" reject; a leading "*" makes
+        // it the form's default, "-" hides it, "!" disables it. Every click
+        // is logged before the form's own handler runs.
+        const QStringList specs = form.mid(5).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        for (QString spec : specs) {
+            const QChar mark = spec.at(0);
+            if (mark == '*' || mark == '-' || mark == '!')
+                spec.remove(0, 1);
+            const QString ends = spec.section('=', 1);
+            const QString name = spec.section('=', 0, 0).section('/', 0, 0);
+            QPushButton* b = button(spec.section('=', 0, 0).section('/', 1), d, log, [name] { return "pressed:" + name; });
+            b->setObjectName(name);
+            b->setAutoDefault(true);
+            b->setDefault(mark == '*');
+            b->setHidden(mark == '-');
+            b->setEnabled(mark != '!');
+            if (ends == "a")
+                QObject::connect(b, &QPushButton::clicked, d, &QDialog::accept);
+            if (ends == "r")
+                QObject::connect(b, &QPushButton::clicked, d, &QDialog::reject);
+        }
+    } else if (form == QLatin1String("pushbuttons")) {
+        // The widget library's PushButton: empty action text accepts only
+        // on an ok button's name.
+        new PushButton(d, "applyButton");
+        new PushButton(d, "okButton1");
+        (new PushButton(d, "cancelButton"))->setActionText("reject");
     }
-    if (form != QLatin1String("buttonbox")) {
+    if (form != QLatin1String("buttonbox") && !form.startsWith(QLatin1String("ends:"))
+        && form != QLatin1String("pushbuttons")) {
         new OkButton(d, "okButton");
         new CancelButton(d, "cancelButton");
     }
@@ -245,6 +327,8 @@ private slots:
     void parse();
     void driver_data();
     void driver();
+    void inspect_data();
+    void inspect();
     void screenshot();
     void engineCall();
 
@@ -362,7 +446,7 @@ void TestAnswers::parse_data()
         {"choose": "x", "texts": ["a", "b"]}, {"radio": "r", "id": 0},
         {"cell": "t", "row": 1, "column": 0, "text": "v"}, {"key": "t", "keys": "Ctrl+A"},
         {"menu": "t", "action": "Remove"}, {"message": "Yes"}, {"file": ""}, {"file": "/tmp/a"},
-        {"color": "#102030"}, {"color": null}, {"screenshot": "a.png"},
+        {"color": "#102030"}, {"color": null}, {"screenshot": "a.png"}, {"inspect": ""}, {"inspect": "x"},
         {"accept": true}, {"cancel": true}])", "");
     row("empty script", "[]", "");
     row("no file", "no file", "cannot read answer script");
@@ -430,6 +514,7 @@ Run TestAnswers::drive(const QByteArray& script, const QString& form)
     driver.run([&] {
         auto* dialog = new QDialog;
         dialog->setObjectName(QStringLiteral("TestDialog"));
+        dialog->setWindowTitle(QStringLiteral("Answers"));
         buildDrivenForm(form, dialog, &run.log);
         run.accepted = dialog->exec() == QDialog::Accepted;
         if (run.accepted)
@@ -509,6 +594,45 @@ void TestAnswers::driver_data()
     ok("colour dialog; null cancels it", "pickers",
        R"([{"click": "Colour"}, {"color": "#102030"}, {"click": "Colour"}, {"color": null}, {"accept": true}])", true,
        {}, {"color:#102030", "color:invalid"});
+    ok("choose a tab by its title or index, as a click on it", "tabs",
+       R"([{"choose": "tabs", "text": "Second"}, {"set": "edit1", "text": "v"}, {"choose": "tabs", "index": 0},
+           {"accept": true}])", true, {"", "v", ""}, {"page:1", "page:0"});
+    fails("a field on a page not current is hidden", "tabs", R"([{"set": "edit1", "text": "v"}])",
+          R"("edit1" is hidden)");
+    fails("a disabled tab can't be chosen", "tabs", R"([{"choose": "tabs", "text": "Third"}])",
+          R"(tab "Third" of "tabs" is disabled)");
+    fails("no such tab", "tabs", R"([{"choose": "tabs", "index": 3}])",
+          R"(no tab 3 in "tabs" (tabs: "First", "&Second", "Third"))");
+
+    // {"accept": true} and {"cancel": true} press what a person would.
+    const QByteArray accept = R"([{"accept": true}])";
+    const QByteArray cancel = R"([{"cancel": true}])";
+    ok("accept presses the form's ok button, not the default", "ends:*applyButton/Apply pushButtonOk/Ok=a okButton2/O&K=a",
+       accept, true, {}, {"pressed:okButton2"});
+    ok("ok buttons by name in order, a hidden one passed over", "ends:-okButton/Ok=a okbutton/Ok=a okButton1/Ok=a",
+       accept, true, {}, {"pressed:okButton1"});
+    ok("then the form's default button", "ends:helpButton/Help *goButton/Go=a pushButtonOk/Ok=a", accept, true, {},
+       {"pressed:goButton"});
+    ok("then the one button reading Ok, whatever Qt made the default", "ends:helpButton/Help pushButtonOk/&Ok=a",
+       accept, true, {}, {"pressed:pushButtonOk"});
+    ok("the form's default stays so while another button has the focus", "ends:applyButton/Apply *goButton/Go=a",
+       R"([{"click": "Apply"}, {"accept": true}])", true, {}, {"pressed:applyButton", "pressed:goButton"});
+    ok("with none of these, accept ends the dialog itself", "ends:applyButton/Apply", accept, true, {});
+    fails("a disabled ok button is not passed over", "ends:!okButton/Ok=a", accept, R"("Ok" is disabled)");
+    fails("a hidden ok button and nothing else", "ends:-okButton/Ok=a", accept,
+          R"(the ok button of "TestDialog" is hidden)");
+    ok("cancel presses a numbered cancel button", "ends:okButton/Ok=a cancelButton2/Close=r", cancel, false, {},
+       {"pressed:cancelButton2"});
+    ok("cancel presses the misspelt one", "ends:okButton/Ok=a cacnelButton/Cancel=r", cancel, false, {},
+       {"pressed:cacnelButton"});
+    ok("cancel presses the button reading Cancel", "ends:okButton/Ok=a quitButton/&Cancel=r", cancel, false, {},
+       {"pressed:quitButton"});
+    ok("a hidden cancel button: rejected as by Escape", "ends:okButton/Ok=a -cancelButton/Cancel=r", cancel, false, {});
+    ok("a PushButton without action text ends the dialog only as an ok button", "pushbuttons",
+       R"([{"click": "applyButton"}, {"inspect": ""}, {"click": "okButton1"}])", true, {}, {R"("visible":true)"});
+
+    fails("inspect of an unknown widget fails", "edit", R"([{"inspect": "Foo"}])",
+          R"(step 1 {"inspect": "Foo"}: no widget "Foo" in dialog "TestDialog")");
     fails("unknown widget fails at once", "edit", R"([{"click": "Foo"}])",
           R"(step 1 {"click": "Foo"}: no widget "Foo" in dialog "TestDialog")");
     ok("a step too many", "edit", R"([{"accept": true}, {"click": "okButton"}])", true, {"start"}, {},
@@ -549,6 +673,54 @@ void TestAnswers::driver()
     QVERIFY2(run.ms < (waits ? 8000 : 3000), qPrintable(QString::number(run.ms)));
     if (waits)
         QVERIFY(run.ms >= 5000);
+}
+
+void TestAnswers::inspect_data()
+{
+    QTest::addColumn<QString>("object");
+    QTest::addColumn<QJsonObject>("fields"); // each must be in the line as given
+
+    const QJsonValue null;
+    const auto row = [](const char* name, const char* object, const QJsonObject& fields) {
+        QTest::newRow(name) << QString(object) << fields;
+    };
+    row("the dialog", "", {{"class", "QDialog"}, {"objectName", "TestDialog"}, {"hidden", false}, {"visible", true},
+                           {"enabled", true}, {"text", "TestDialog"}, {"title", "Answers"}, {"checked", null},
+                           {"current", null}, {"items", null}, {"selected", null}});
+    row("spinner", "spinner", {{"class", "Spinner"}, {"text", "4.7k"}, {"checked", null}, {"title", null}});
+    row("label keeps its markup", "label", {{"text", "<b>Hi</b>"}, {"items", null}});
+    row("disabled check box by its text", "Enable",
+        {{"objectName", "check"}, {"text", "&Enable"}, {"checked", true}, {"enabled", false}});
+    row("combo box", "combo", {{"text", "b"}, {"current", 1}, {"items", QJsonArray{"a", "b", "c"}}, {"selected", null}});
+    row("list selection in row order", "list",
+        {{"text", null}, {"items", QJsonArray{"x", "y", "z"}}, {"selected", QJsonArray{"x", "z"}}});
+    row("radio group", "radios", {{"text", "Mode"}, {"current", 1}, {"checked", null}});
+    row("text edit", "text", {{"text", "two\nlines"}});
+    row("hidden button", "Hidden", {{"class", "QPushButton"}, {"hidden", true}, {"visible", false}, {"checked", null}});
+    row("stacked widget", "stack", {{"current", 1}, {"items", null}});
+    row("tree, indented by level", "tree",
+        {{"items", QJsonArray{"Page", "  Group", "    p1", "Other"}}, {"selected", QJsonArray{"Page"}}});
+    row("tab widget", "tabs", {{"current", 0}, {"items", QJsonArray{"&Main", "Extra"}}, {"text", null}});
+    row("field on a page not current: not hidden, not visible", "onPage2",
+        {{"hidden", false}, {"visible", false}, {"text", ""}});
+}
+
+void TestAnswers::inspect()
+{
+    QFETCH(QString, object);
+    QFETCH(QJsonObject, fields);
+
+    const QJsonArray steps{QJsonObject{{"inspect", object}}, QJsonObject{{"cancel", true}}};
+    const Run run = drive(QJsonDocument(steps).toJson(), "inspect");
+    QVERIFY2(run.failure.isEmpty(), qPrintable(run.failure));
+    QCOMPARE(run.lines.size(), 1);
+    // The step's own key first, as a reader looks for it.
+    QVERIFY2(run.lines[0].startsWith("{\"inspect\":"), run.lines[0].constData());
+    const QJsonObject line = QJsonDocument::fromJson(run.lines[0]).object();
+    QCOMPARE(line.value("inspect").toString(), object);
+    QCOMPARE(line.size(), 12);
+    for (auto it = fields.begin(); it != fields.end(); ++it)
+        QVERIFY2(line.value(it.key()) == it.value(), qPrintable(it.key() + ": " + run.lines[0]));
 }
 
 void TestAnswers::screenshot()

@@ -159,6 +159,10 @@ private slots:
             << R"([{"wait": "ListSubsetDialog"}, {"choose": "listBoxAvailable", "texts": ["a"]},
                   {"click": "Add Selected"}, {"accept": true}])"
             << 0 << QByteArray(R"(["[selected]","a","[notselected]","b"])") << QByteArray();
+        QTest::newRow("inspected on stderr")
+            << R"([{"inspect": "listBoxAvailable"}, {"accept": true}])" << 0
+            << QByteArray(R"(["[selected]","[notselected]","a","b"])")
+            << QByteArray(R"({"inspect":"listBoxAvailable","class":"ListBox")");
         QTest::newRow("accept") << "accept" << 0
                                 << QByteArray(R"(["[selected]","[notselected]","a","b"])")
                                 << QByteArray();

@@ -606,7 +606,10 @@ void TestWidgets::pushButtonEndsDialog_data()
     QTest::newRow("reject") << "PushButton" << "cancelButton" << "reject" << false << "reject";
     QTest::newRow("ok by name") << "PushButton" << "okButton" << "" << false << "accept";
     QTest::newRow("ok with own check") << "PushButton" << "okButton" << "" << true << "open";
+    QTest::newRow("ok by numbered name") << "PushButton" << "okButton2" << "" << false << "accept";
+    QTest::newRow("ok by lower-case name") << "PushButton" << "okbutton" << "" << false << "accept";
     QTest::newRow("other button") << "PushButton" << "applyButton" << "" << false << "open";
+    QTest::newRow("Ok-like name is not enough") << "PushButton" << "pushButtonOk" << "" << false << "open";
     QTest::newRow("unknown action") << "PushButton" << "okButton" << "apply" << false << "open";
     QTest::newRow("OkButton") << "OkButton" << "anyName" << "" << true << "accept";
     QTest::newRow("CancelButton") << "CancelButton" << "okButton" << "" << false << "reject";
