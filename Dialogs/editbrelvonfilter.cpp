@@ -636,9 +636,13 @@ void EditBrelvonFilter::showEvent(QShowEvent* event)
     focus->lineEdit()->setFocus();
 
     update_equations();
-    // Without the coefficients in the array the members take what the
-    // spinners show, so that a calculation starts from the visible numbers.
-    if (!m_membersLoaded) {
+    if (m_membersLoaded) {
+        // The spinners show the loaded members at the display precision.
+        setSSpinnerValues();
+        setZSpinnerValues();
+    } else {
+        // Without the coefficients in the array the members take what the
+        // spinners show, so that a calculation starts from visible numbers.
         updateSMemberVars();
         updateZMemberVars();
         m_membersLoaded = true;
