@@ -9,3 +9,18 @@ show call TableDialog '[4, 2]' '["0;0;", "1m;1;", "2m;0;"]' --answer $d/tabledia
 show call TableEditor '["input|output|bidirectional", "digital|analog"]' \
   '["input|output", "digital|analog"]' '["Direction|Type", "A|B|C", "Add Pin|Remove Pin"]' \
   '["Pin Types", "Choose a direction and a type for each pin."]' --answer $d/tableeditor.json
+show call EditBRELVONGateDialog '["0", "1Meg", "10", "2.5", "100m", "0", "5", "10n"]' '["0", "3", "1", "0"]' \
+  '["0|1|X", "0|VSS|VEE", "9", "1", "0", "1", "", "101|102|103|104",
+    "The inputs are voltage comparators with hysteresis; each output is a voltage source with a series resistance."]' \
+  '["AND / NAND gate", "OR / NOR gate", "XOR / XNOR gate", "Inverter / Buffer"]' \
+  '["The output is high when all inputs are high (AND) or low (NAND).",
+    "The output is high when any input is high (OR) or none is (NOR).",
+    "The output is high when the two inputs differ (XOR) or agree (XNOR).",
+    "The output follows (Buffer) or inverts (Inverter) its input."]' \
+  --answer $d/editbrelvongatedialog.json
+show call EditJumperDialog '["1", "2", "2"]' '["Edit Jumper J1", "12"]' --answer $d/editjumperdialog.json
+show call EditBrelvonFilter '["BRELVON_DIGI1_D_DF_2POLE_Y", "2", "1", "0", "0", "0", "0", "0", "0", "0",
+  "39478417.6", "8885.7659", "39478417.6", "Trapezoidal", "10k", "0", "0", "", "", "", "12", "6", "4"]' \
+  --answer $d/editbrelvonfilter.json
+show call ConvergenceDialog '["1", "1e-12", "1", "1e+012", "1", "0", "1", "0", "0", "1"]' '["0"]' \
+  --answer $d/convergencedialog.json
