@@ -122,6 +122,7 @@ private:
     QList<Spinner*> usedZSpinners() const;
     // A calculation needs numbers: none while a coefficient it reads is an
     // expression, or the sampling frequency is no usable number.
+    bool canCalculateFrom(const QList<Spinner*>& sources) const;
     bool canCalculateZ() const;
     bool canCalculateS() const;
     void updateCalculateButtons();
@@ -131,8 +132,6 @@ private:
                   const QString& fixedLast, int digits) const;
 
     std::unique_ptr<Ui::EditBrelvonFilter> m_ui;
-    double m_T = 0.0;
-    double m_T2 = 0.0;
     SCoefficients m_s;
     ZCoefficients m_z;
     QStringList m_args;
@@ -260,26 +259,25 @@ QList<Spinner*> EditBrelvonFilter::usedZSpinners() const
     return {all.begin(), all.end()};
 }
 
-bool EditBrelvonFilter::canCalculateZ() const
+bool EditBrelvonFilter::canCalculateFrom(const QList<Spinner*>& sources) const
 {
     const double fs = samplingFrequency();
     if (isExpression(m_ui->spinnerFSampling) || !(fs > 0.0) || !std::isfinite(fs))
         return false;
-    for (const Spinner* spinner : usedSSpinners())
+    for (const Spinner* spinner : sources)
         if (isExpression(spinner))
             return false;
     return true;
 }
 
+bool EditBrelvonFilter::canCalculateZ() const
+{
+    return canCalculateFrom(usedSSpinners());
+}
+
 bool EditBrelvonFilter::canCalculateS() const
 {
-    const double fs = samplingFrequency();
-    if (isExpression(m_ui->spinnerFSampling) || !(fs > 0.0) || !std::isfinite(fs))
-        return false;
-    for (const Spinner* spinner : usedZSpinners())
-        if (isExpression(spinner))
-            return false;
-    return true;
+    return canCalculateFrom(usedZSpinners());
 }
 
 void EditBrelvonFilter::updateCalculateButtons()
@@ -294,8 +292,6 @@ bool EditBrelvonFilter::runTransform(bool toZ)
     if (toZ ? !canCalculateZ() : !canCalculateS())
         return true;
     const double fs = samplingFrequency();
-    m_T = 1.0 / fs;
-    m_T2 = std::pow(m_T, 2.0);
     double denominator = 0.0;
     const Outcome outcome = toZ ? filtertransforms::zFromS(isFirstOrder(), method(), fs, m_s, &m_z, &denominator)
                                 : filtertransforms::sFromZ(isFirstOrder(), method(), fs, m_z, &m_s, &denominator);

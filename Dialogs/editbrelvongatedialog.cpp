@@ -191,10 +191,9 @@ void EditBRELVONGateDialog::gateTypeGroup_clicked(int type)
         invertedCombo->addItem(QStringLiteral("0"));
         invertedCombo->addItem(QStringLiteral("1"));
     } else {
-        if (counts.inputs == -1) {
-            const Counts& other = m_counts[type == AndNand ? OrNor : AndNand];
-            counts = other.inputs != -1 ? other : Counts{2, 0};
-        }
+        const size_t other = type == AndNand ? OrNor : AndNand;
+        if (counts.inputs == -1)
+            counts = other < m_counts.size() && m_counts[other].inputs != -1 ? m_counts[other] : Counts{2, 0};
         for (int n = 2; n <= m_maxInputs; ++n)
             inputsCombo->addItem(QString::number(n));
         for (int n = 0; n <= counts.inputs - m_minNonInverted; ++n)
