@@ -3,18 +3,13 @@
 // user would.
 #include "dialogtest.h"
 #include "filtertransforms.h"
-#include "hostsupport.h"
-#include "hostwidgets.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
-#include <QLineEdit>
 #include <QMap>
 #include <QTimer>
 #include <QtTest>
-
-#include <functional>
 
 using namespace dialogtest;
 using Facts = QMap<QString, QString>;

@@ -73,9 +73,11 @@ const std::vector<Row>& table()
 
 // What the module implements so far; grows as functions land.
 const QStringList implemented = {
-    "TableEditor",      "TableDialog",   "Select2Dialog",        "ListSubsetDialog",
+    "TableEditor",      "TableDialog",   "Select2Dialog",        "EditBRELVONGateDialog",
+    "EditJumperDialog", "ListSubsetDialog",
     "BRELVONSearchIdx", "ThdWeight",     "ParseEscape",          "ScanEscape",
-    "PerCycleTiming",   "PerCycleValue", "_TestPerCycleFunction",
+    "PerCycleTiming",   "PerCycleValue", "_TestPerCycleFunction", "EditBrelvonFilter",
+    "ConvergenceDialog",
 };
 
 ScriptValue strings(std::vector<std::string> s)
