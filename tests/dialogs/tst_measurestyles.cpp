@@ -423,6 +423,27 @@ void TestMeasureStyles::styles_data()
                               "NewStyle2|" + newStyle.arg("arial")},
         {"listbox_StyleNames.items=Instance|NewStyle|NewStyle1|NewStyle2|Wire",
          "pushbutton_EditName.enabled=true"});
+    // The list's item editor, as a user types into it.
+    const QString rename = "{\"set\": \"QExpandingLineEdit\", \"text\": \"%1\"}";
+    const QString newAndName = "[{\"click\": \"pushbutton_NewStyle\"}, " + rename + ", {\"accept\": true}]";
+    row("a new name loses its blanks", styleArgs(names, entries), newAndName.arg("My Wire"),
+        entries + QStringList{"MyWire|" + newStyle.arg("arial")},
+        {"listbox_StyleNames.items=Instance|MyWire|Wire", "pushbutton_EditName.enabled=true"});
+    row("a name with | goes back", styleArgs(names, entries), newAndName.arg("A|B"),
+        entries + QStringList{"NewStyle|" + newStyle.arg("arial")},
+        {"listbox_StyleNames.items=Instance|NewStyle|Wire"});
+    row("a name with ; goes back", styleArgs(names, entries), newAndName.arg("A;B"),
+        entries + QStringList{"NewStyle|" + newStyle.arg("arial")});
+    row("a taken name in another case goes back", styleArgs(names, entries), newAndName.arg("WIRE"),
+        entries + QStringList{"NewStyle|" + newStyle.arg("arial")},
+        {"listbox_StyleNames.items=Instance|NewStyle|Wire"});
+    row("only names given here can be renamed again", styleArgs(names, entries),
+        "[{\"click\": \"pushbutton_NewStyle\"}, " + rename.arg("Mine")
+            + ", {\"choose\": \"listbox_StyleNames\", \"text\": \"Wire\"},"
+              " {\"choose\": \"listbox_StyleNames\", \"text\": \"Mine\"},"
+              " {\"click\": \"pushbutton_EditName\"}, " + rename.arg("Yours") + ", {\"accept\": true}]",
+        entries + QStringList{"Yours|" + newStyle.arg(leftFamily)},
+        {"listbox_StyleNames.items=Instance|Wire|Yours", "pushbutton_EditName.enabled=true"});
     row("duplicate strips trailing digits", styleArgs({"Wire", "Wire2"}, {wire, "Wire2|" + style(5, 3, 4)}),
         "[{\"choose\": \"listbox_StyleNames\", \"text\": \"Wire2\"}, {\"click\": \"pushbutton_Duplicate\"},"
         " {\"accept\": true}]",
