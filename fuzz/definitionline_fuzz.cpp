@@ -15,7 +15,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const QString input =
         QString::fromLatin1(reinterpret_cast<const char*>(data), static_cast<int>(size));
     measuredefs::NameSet names;
-    for (const QString& line : input.split(QLatin1Char('\n'))) {
+    // Lines reach the dialogs as C strings: a NUL ends one like a newline.
+    const QStringList lines = QString(input).replace(QChar(0), QLatin1Char('\n')).split(QLatin1Char('\n'));
+    for (const QString& line : lines) {
         measuredefs::Choice choice;
         if (measuredefs::parseChoice(line, &choice) == line.isEmpty())
             std::abort();

@@ -24,3 +24,26 @@ show call EditBrelvonFilter '["BRELVON_DIGI1_D_DF_2POLE_Y", "2", "1", "0", "0", 
   --answer $d/editbrelvonfilter.json
 show call ConvergenceDialog '["1", "1e-12", "1", "1e+012", "1", "0", "1", "0", "0", "1"]' '["0"]' \
   --answer $d/convergencedialog.json
+show call MeasureDialog '["Mean;Average value over the curve;0;1", "RMS;Root mean square of the curve;0;1",
+  "Frequency;Frequency from the cursor span;1;1", "Rise time;Rise time 10%-90% between the cursors;1;1",
+  "Overshoot;Peak overshoot after a step, user definition;0;0", "Custom;Write your own measurement;0;1"]' \
+  '["Mean"]' --answer $d/measure.json
+show call ManageMeasureDialog '["Mean;Mean1(data);%g;Mean;Average value over the curve;;1",
+  "Freq;Frequency(data);%.4g Hz;Freq;Frequency from the cursor span;1;1",
+  "RMS;RMS1(data);%g;RMS;Root mean square of the curve;;1",
+  "Overshoot;(Maximum(data)-data[-1])/data[-1];%.1f%%;OS;Peak overshoot after a step;"]' \
+  --answer $d/managemeasure.json
+styletail='fontItalics:0 fontColour:0 propertyStyle:0 fontOverline:0 fontUnderline:0'
+show call EditStylesDialog '["Wire", "Instance", "Bus", "Annotation"]' \
+  "[\"Wire|lineColour:32768 lineType:0 lineThickness:2 fontFamily:\\\"DejaVu Sans\\\" fontBold:0 fontSize:9 $styletail \",
+    \"Instance|lineColour:8388608 lineType:0 lineThickness:0 fontFamily:\\\"DejaVu Sans\\\" fontBold:0 fontSize:9 $styletail \",
+    \"Bus|lineColour:8421376 lineType:1 lineThickness:3 fontFamily:\\\"DejaVu Sans\\\" fontBold:1 fontSize:9 $styletail \",
+    \"Annotation|lineColour:0 lineType:0 lineThickness:0 fontFamily:\\\"DejaVu Serif\\\" fontBold:0 fontSize:12 $styletail \"]" \
+  '["Solid", "Dash", "Dot", "DashDot", "DashDotDot"]' \
+  "[\"DefaultBackground|lineColour:16777215 lineType:0 lineThickness:0 fontFamily:\\\"arial\\\" fontBold:0 fontSize:9 $styletail \",
+    \"DefaultGrid|lineColour:10526880 lineType:0 lineThickness:0 fontFamily:\\\"arial\\\" fontBold:0 fontSize:9 $styletail \",
+    \"DefaultWire|lineColour:32768 lineType:0 lineThickness:0 fontFamily:\\\"arial\\\" fontBold:0 fontSize:9 $styletail \",
+    \"DefaultInstance|lineColour:8388608 lineType:0 lineThickness:0 fontFamily:\\\"DejaVu Sans\\\" fontBold:0 fontSize:12 $styletail \"]" \
+  '["noduplicate"]' '["Wire|lineColour:255 lineType:0 lineThickness:0 fontFamily:\"arial\" fontBold:0 fontSize:9 '"$styletail"' "]' \
+  --answer $d/editstyles.json
+show call CreateNewTitleBlockDialog @$d/titleblock-block.json --answer $d/titleblock.json
