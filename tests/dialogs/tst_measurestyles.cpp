@@ -14,6 +14,7 @@
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QFontDatabase>
+#include <QJsonArray>
 #include <QtTest>
 
 using namespace dialogtest;
@@ -21,64 +22,34 @@ Q_DECLARE_METATYPE(Args)
 
 namespace {
 
-// Reads facts about the dialog named name as it ends, after the answer
-// steps have run and before the host collects it. A fact is
-// "object.property"; "object.items" lists an item view's texts and
-// "object.enabledItems" those of its enabled items, "object.visible" tells
-// whether the object shows in the dialog, and "object.tab1" whether the
-// second page of a tab widget can be used.
-class FinalLook : public QObject {
-public:
-    FinalLook(const QString& name, const QStringList& keys)
-        : m_keys(keys)
-    {
-        m_timer.setInterval(2);
-        connect(&m_timer, &QTimer::timeout, this, [this, name] {
-            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            if (!dialog || dialog->objectName() != name)
-                return;
-            m_timer.stop();
-            connect(dialog, &QDialog::finished, this, [this, dialog] { look(dialog); });
-        });
-        m_timer.start();
+// A fact "object.field" as the inspect step reported it: a list joined by
+// "|", a flag as "true" or "false".
+QString factValue(const QJsonObject& line, const QString& field)
+{
+    const QJsonValue v = line.value(field);
+    if (v.isArray()) {
+        QStringList texts;
+        for (const QJsonValue& item : v.toArray())
+            texts << item.toString();
+        return texts.join('|');
     }
+    if (v.isBool())
+        return v.toBool() ? "true" : "false";
+    return v.isString() ? v.toString() : QStringLiteral("absent");
+}
 
-    QStringList seen;
-
-private:
-    void look(QDialog* dialog)
-    {
-        for (const QString& key : m_keys)
-            seen << key + QLatin1Char('=') + fact(dialog, key);
-    }
-
-    static QString fact(QDialog* dialog, const QString& key)
-    {
-        const QString property = key.section(QLatin1Char('.'), -1);
-        QWidget* w = dialog->findChild<QWidget*>(key.section(QLatin1Char('.'), 0, 0));
-        if (!w)
-            return QStringLiteral("absent");
-        if (property == QLatin1String("visible"))
-            return QVariant(w->isVisibleTo(dialog)).toString();
-        if (auto* tabs = qobject_cast<QTabWidget*>(w); tabs && property == QLatin1String("tab1"))
-            return QVariant(tabs->isTabEnabled(1)).toString();
-        if (auto* list = qobject_cast<QListWidget*>(w)) {
-            QStringList texts;
-            for (int row = 0; row < list->count(); ++row) {
-                const QListWidgetItem* item = list->item(row);
-                if (property == QLatin1String("items")
-                    || (property == QLatin1String("enabledItems") && (item->flags() & Qt::ItemIsEnabled)))
-                    texts << item->text();
-            }
-            if (property.endsWith(QLatin1String("tems")))
-                return texts.join(QLatin1Char('|'));
-        }
-        return w->property(property.toLatin1()).toString();
-    }
-
-    QStringList m_keys;
-    QTimer m_timer;
-};
+// The answer steps with an inspect step for each fact's object put in just
+// before the last step, which ends the dialog.
+QByteArray withInspections(const QString& steps, const QStringList& objects)
+{
+    QJsonArray array = QJsonDocument::fromJson(steps.toUtf8()).array();
+    const QJsonValue last = array.isEmpty() ? QJsonValue() : array.takeAt(array.size() - 1);
+    for (const QString& object : objects)
+        array.append(QJsonObject{{"inspect", object}});
+    if (!last.isUndefined() && !last.isNull())
+        array.append(last);
+    return QJsonDocument(array).toJson(QJsonDocument::Compact);
+}
 
 // A line of the result of MeasureDialog: the selected name, the three
 // pre-process boxes, and the custom tab's six elements.
@@ -149,15 +120,16 @@ private slots:
     void manage_data();
     void manage() { check("ManageMeasureDialog"); }
     void styles_data();
-    void styles() { check("EditStylesDialog", "EditStyles"); }
+    void styles() { check("EditStylesDialog"); }
     void titleBlock_data();
-    void titleBlock() { check("CreateNewTitleBlockDialog", "CreateNewTitleBlock"); }
+    void titleBlock() { check("CreateNewTitleBlockDialog"); }
+    void measureGreyItemCantBePicked();
 
 private:
     // Columns of every table. options are "name=value" pairs written before
     // the call; optionsAfter are read after it.
     static void columns();
-    void check(const char* function, const QString& dialogName = {});
+    void check(const char* function);
 
     vtkit::Engine m_engine;
     QTemporaryDir m_config;
@@ -203,7 +175,7 @@ void TestMeasureStyles::columns()
     QTest::addColumn<QStringList>("optionsAfter");
 }
 
-void TestMeasureStyles::check(const char* function, const QString& dialogName)
+void TestMeasureStyles::check(const char* function)
 {
     QFETCH(Args, args);
     QFETCH(QString, steps);
@@ -216,17 +188,22 @@ void TestMeasureStyles::check(const char* function, const QString& dialogName)
 
     for (const QString& option : options)
         sp_WriteOption(toYs(option.section('=', 0, 0)), toYs(option.section('=', 1)));
-    QStringList keys;
+    QStringList objects;
     for (const QString& f : facts)
-        keys << f.section('=', 0, 0);
-    FinalLook look(dialogName.isEmpty() ? QString::fromLatin1(function) : dialogName, keys);
+        if (!objects.contains(f.section('.', 0, 0)))
+            objects << f.section('.', 0, 0);
 
-    const Answered a = answer(m_engine, function, args, steps.toUtf8());
+    const Answered a = answer(m_engine, function, args, withInspections(steps, objects));
     QVERIFY2(a.ok, qPrintable(a.failure));
     QCOMPARE(a.result.hasResult, hasResult);
     if (hasResult)
         QCOMPARE(textsOf(a.result), expected);
-    QCOMPARE(look.seen, facts);
+    QStringList seen;
+    for (const QString& f : facts) {
+        const QString key = f.section('=', 0, 0);
+        seen << key + '=' + factValue(a.inspected(key.section('.', 0, 0)), key.section('.', 1));
+    }
+    QCOMPARE(seen, facts);
 
     QStringList boxes;
     for (const QJsonObject& e : a.eventsOf(QStringLiteral("messageBox"))) {
@@ -263,12 +240,11 @@ void TestMeasureStyles::measure_data()
          "measureItemsListBox.items="});
     row("start name selected, Ok", stringArgs({lines, {"RMS", "0", "1", "0"}, {"haveCursors"}}),
         "[{\"accept\": true}]", true, measureResult("RMS", "010"),
-        {"longDescriptionLabel.text=Root mean square", "messageLabel.visible=false",
-         "tabWidget.tab1=false"});
+        {"longDescriptionLabel.text=Root mean square", "messageLabel.hidden=true",
+         "tabCustom.enabled=false"});
     row("without cursors the item is grey and a click does nothing", stringArgs({lines, {"Mean"}}),
         none, false, {},
-        {"measureItemsListBox.enabledItems=Mean|RMS|Custom",
-         "longDescriptionLabel.text=Average value", "okButton1.enabled=true"});
+        {"longDescriptionLabel.text=Average value", "okButton1.enabled=true"});
     row("a start name that is greyed leaves Ok off", stringArgs({lines, {"Freq"}}), none, false, {},
         {"okButton1.enabled=false", "longDescriptionLabel.text="});
     row("cursors forced on and given back",
@@ -285,12 +261,12 @@ void TestMeasureStyles::measure_data()
         "[{\"choose\": \"measureItemsListBox\", \"text\": \"CUSTOM\"}, " + kNextTab + ", {\"set\": \"labelEdit\", \"text\": \"Pk\"},"
         " {\"check\": \"cbSaveDefs\"}, {\"set\": \"shortDescriptionEdit\", \"text\": \"Peak\"}, {\"accept\": true}]",
         true, measureResult("CUSTOM", "000", {"Pk", "", "1", "", "Peak", ""}),
-        {"tabWidget.tab1=true", "saveDefinitionGroupBox.enabled=true"});
+        {"tabCustom.enabled=true", "saveDefinitionGroupBox.enabled=true"});
     row("leaving custom closes the tab and keeps its text",
         stringArgs({lines, {"Custom"}}),
         "[" + kNextTab + ", {\"set\": \"editBox6\", \"text\": \"%.3g\"}, " + kNextTab + ", {\"choose\": \"measureItemsListBox\", \"text\": \"Mean\"},"
         " {\"accept\": true}]",
-        true, measureResult("Mean", "000", {"", "", "0", "%.3g", "", ""}), {"tabWidget.tab1=false"});
+        true, measureResult("Mean", "000", {"", "", "0", "%.3g", "", ""}), {"tabCustom.enabled=false"});
     row("a line of a name only describes itself", stringArgs({{"Peak"}}),
         "[{\"choose\": \"measureItemsListBox\", \"text\": \"Peak\"}, {\"accept\": true}]", true,
         measureResult("Peak", "000"), {"longDescriptionLabel.text=Peak"});
@@ -303,11 +279,31 @@ void TestMeasureStyles::measure_data()
         {"measureItemsListBox.items=A", "longDescriptionLabel.text=y"});
     row("an overriding line that needs cursors looks enabled, Ok stays off",
         stringArgs({{"B;x;0;1", "B;z;1;0"}, {"B"}}), none, false, {},
-        {"measureItemsListBox.enabledItems=B", "okButton1.enabled=false",
+        {"okButton1.enabled=false",
          "longDescriptionLabel.text=z"});
     row("empty lines, 40 fields, one list of junk",
         stringArgs({{"", QString(39, ';'), "X;d;1;1" + QString(36, ';'), ";;;"}}), none, false, {},
         {"measureItemsListBox.items=|X"});
+}
+
+// Without cursors a measurement that needs them is grey: a click can't
+// pick it, and the form stays as it was.
+void TestMeasureStyles::measureGreyItemCantBePicked()
+{
+    const Answered a = answer(m_engine, "MeasureDialog",
+                              stringArgs({{"Mean;Average;0;1", "Freq;Frequency;1;1", "B;x;0;1", "B;z;1;0"}, {"Mean"}}),
+                              R"([{"choose": "measureItemsListBox", "text": "Freq"}, {"accept": true}])");
+    QVERIFY(!a.ok);
+    QVERIFY2(a.failure.contains("did not give the selection"), qPrintable(a.failure));
+    // A user line over a factory one keeps the item enabled, though it now
+    // needs cursors: picked, it doesn't enable Ok.
+    const Answered b = answer(m_engine, "MeasureDialog",
+                              stringArgs({{"Mean;Average;0;1", "B;x;0;1", "B;z;1;0"}, {"Mean"}}),
+                              R"([{"choose": "measureItemsListBox", "text": "B"}, {"inspect": "okButton1"},
+                                  {"inspect": "longDescriptionLabel"}, {"cancel": true}])");
+    QVERIFY2(b.ok, qPrintable(b.failure));
+    QCOMPARE(b.inspected("okButton1").value("enabled").toBool(), false);
+    QCOMPARE(b.inspected("longDescriptionLabel").value("text").toString(), QString("z"));
 }
 
 void TestMeasureStyles::manage_data()
@@ -331,7 +327,7 @@ void TestMeasureStyles::manage_data()
     row("a change of letter case only is no change", {mean, freq},
         "[{\"set\": \"expressionEdit\", \"text\": \"MEAN1(DATA)\"}, {\"choose\": \"measureItemsListBox\", \"text\": \"Freq\"},"
         " {\"choose\": \"measureItemsListBox\", \"text\": \"Mean\"}, {\"accept\": true}]",
-        {""}, {"deleteButton.enabled=false", "expressionEdit.plainText=MEAN1(DATA)"});
+        {""}, {"deleteButton.enabled=false", "expressionEdit.text=MEAN1(DATA)"});
     row("a changed factory definition comes back, six fields", {mean, freq},
         "[{\"choose\": \"measureItemsListBox\", \"text\": \"Freq\"}, {\"set\": \"formatEdit\", \"text\": \"%.2f\"},"
         " {\"check\": \"cbRequiresCursors\", \"on\": false}, {\"accept\": true}]",
@@ -346,7 +342,7 @@ void TestMeasureStyles::manage_data()
     row("factory and user line merge, user first", {"Mean;Mean2(data);%g;My mean;Mine;", mean},
         "[{\"accept\": true}]", {"Mean;Mean2(data);%g;My mean;Mine;"},
         {"measureItemsListBox.items=Mean", "deleteButton.text=Restore Factory Definition",
-         "deleteButton.enabled=true", "expressionEdit.plainText=Mean2(data)"});
+         "deleteButton.enabled=true", "expressionEdit.text=Mean2(data)"});
     row("factory and user line merge, factory first", {mean, "Mean;Mean2(data);%g;My mean;Mine;"},
         "[{\"accept\": true}]", {"Mean;Mean2(data);%g;My mean;Mine;"},
         {"measureItemsListBox.items=Mean", "deleteButton.enabled=true"});
@@ -398,16 +394,16 @@ void TestMeasureStyles::styles_data()
     };
 
     row("unchanged, Ok", styleArgs(names, entries), "[{\"accept\": true}]", entries,
-        {"listbox_StyleNames.items=Instance|Wire", "listbox_StyleNames.currentRow=0",
-         "combobox_LineType.currentText=Dash", "spinner_LineSize.text=1",
-         "pushbutton_EditName.enabled=false", "pushButton_RevertGlobal.visible=false"});
+        {"listbox_StyleNames.items=Instance|Wire", "listbox_StyleNames.selected=Instance",
+         "combobox_LineType.text=Dash", "spinner_LineSize.text=1",
+         "pushbutton_EditName.enabled=false", "pushButton_RevertGlobal.hidden=true"});
     row("cancel", styleArgs(names, entries), "[{\"check\": \"checkbox_Bold\"}, {\"cancel\": true}]", {""});
     row("empty entries, Ok gives none", styleArgs({}, {}), "[{\"accept\": true}]", {});
     row("bold and a line type", styleArgs(names, entries),
         "[{\"choose\": \"listbox_StyleNames\", \"text\": \"Wire\"}, {\"check\": \"checkbox_Bold\"},"
         " {\"choose\": \"combobox_LineType\", \"text\": \"Dot\"}, {\"accept\": true}]",
         {"Wire|" + style(32768, 2, 2, 0, 9, true), inst},
-        {"combobox_LineType.currentText=Dot"});
+        {"combobox_LineType.text=Dot"});
     row("line colour from the chooser, packed blue high", styleArgs(names, entries),
         "[{\"click\": \"pushbutton_LineColour\"}, {\"color\": \"#0000ff\"}, {\"accept\": true}]",
         {wire, "Instance|" + style(16711680, 1, 0)});
@@ -450,21 +446,21 @@ void TestMeasureStyles::styles_data()
         {wire, "Wire2|" + style(5, 3, 4), "Wire1|" + style(5, 3, 4)});
     row("flags hide their buttons", styleArgs(names, entries, {{}, {"noedit", "noadd", "NODUPLICATE", "x"}}),
         "[{\"accept\": true}]", entries,
-        {"pushbutton_EditName.visible=false", "pushbutton_NewStyle.visible=false",
-         "pushbutton_Duplicate.visible=true"});
+        {"pushbutton_EditName.hidden=true", "pushbutton_NewStyle.hidden=true",
+         "pushbutton_Duplicate.hidden=false"});
     row("font only", styleArgs(names, entries, {{}, {}, {}, {"FontOnly"}}), "[{\"accept\": true}]", entries,
-        {"groupBox_LineType.visible=false", "groupBox_LineColour.visible=false",
-         "checkbox_PreviewAsWire.visible=false", "checkbox_PreviewAsWire.checked=true",
-         "checkbox_PreviewAsText.checked=true", "groupBox_Font.visible=true"});
+        {"groupBox_LineType.hidden=true", "groupBox_LineColour.hidden=true",
+         "checkbox_PreviewAsWire.hidden=true", "checkbox_PreviewAsWire.checked=true",
+         "checkbox_PreviewAsText.checked=true", "groupBox_Font.hidden=false"});
     row("use global, looked up without regard to case",
         styleArgs(names, entries, {{}, {}, {"WIRE|" + style(1, 4, 3)}}),
         "[{\"choose\": \"listbox_StyleNames\", \"text\": \"Wire\"}, {\"click\": \"pushButton_RevertGlobal\"},"
         " {\"accept\": true}]",
-        {"WIRE|" + style(1, 4, 3), inst}, {"pushButton_RevertGlobal.visible=true"});
+        {"WIRE|" + style(1, 4, 3), inst}, {"pushButton_RevertGlobal.hidden=false"});
     row("a default style shows but can't change",
         styleArgs({"Grid"}, {}, {{"Grid|" + style(7, 2, 0)}}),
         "[{\"check\": \"checkbox_Bold\"}, {\"accept\": true}]", {},
-        {"combobox_LineType.currentText=Dot", "checkbox_Bold.checked=false"});
+        {"combobox_LineType.text=Dot", "checkbox_Bold.checked=false"});
     row("junk entries and a wild size",
         styleArgs({"A", "", "B"}, {"A|fontSize:100000 lineThickness:999999999 lineColour:-5 ", "|", "junk"},
                   {{"DefaultGrid|lineThickness:2000000000 ", "DefaultInstance|fontSize:2000000000 "}}),
