@@ -79,13 +79,11 @@ private:
     std::unique_ptr<Ui::ManageMeasureDialog> m_ui;
     bool m_loading = false;
     QStringList m_lines;
-    UserFunctionInterface* m_call = nullptr;
 };
 
 ManageMeasureDialog::ManageMeasureDialog(UserFunctionInterface* call)
     : QDialog(nullptr)
     , m_ui(new Ui::ManageMeasureDialog)
-    , m_call(call)
 {
     setObjectName(QStringLiteral("ManageMeasureDialog"));
     m_ui->setupUi(this);

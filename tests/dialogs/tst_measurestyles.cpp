@@ -365,6 +365,9 @@ void TestMeasureStyles::manage_data()
         "[{\"set\": \"nameEdit\", \"text\": \"Mean\"}, {\"click\": \"createButton\"}, {\"message\": \"OK\"},"
         " {\"click\": \"copySelectedButton\"}, {\"message\": \"OK\"}, {\"accept\": true}]",
         {""}, {"measureItemsListBox.items=Mean"}, duplicate + duplicate);
+    row("a ; typed into a new name splits it", {},
+        "[{\"set\": \"nameEdit\", \"text\": \"Pk;Max(data)\"}, {\"click\": \"createButton\"}, {\"accept\": true}]",
+        {"Pk;Max(data);;;;"}, {"expressionEdit.text=Max(data)"});
     row("another case is another name", {mean},
         "[{\"set\": \"nameEdit\", \"text\": \"MEAN\"}, {\"click\": \"createButton\"}, {\"accept\": true}]",
         {"MEAN;;;;;"}, {"measureItemsListBox.items=Mean|MEAN"});
