@@ -226,8 +226,8 @@ void TestMeasureStyles::measure_data()
     const QStringList lines{"Mean;Average value;0;1", "RMS;Root mean square;0;1",
                             "Freq;Frequency between cursors;1;1", "Custom;Write your own;0;1"};
     const QString none = "[{\"cancel\": true}]";
-    // Ctrl+Tab turns a tab widget's page as a user would.
-    const QString kNextTab = "{\"key\": \"tabWidget\", \"keys\": \"Ctrl+Tab\"}";
+    const QString customTab = "{\"choose\": \"tabWidget\", \"index\": 1}";
+    const QString listTab = "{\"choose\": \"tabWidget\", \"index\": 0}";
     auto row = [](const char* name, const Args& args, const QString& steps, bool hasResult,
                   const QStringList& expected, const QStringList& facts) {
         QTest::newRow(name) << args << steps << hasResult << expected << facts << QStringList()
@@ -258,13 +258,13 @@ void TestMeasureStyles::measure_data()
         measureResult("Freq", "100"), {"cbCursorSpan.enabled=false"});
     row("custom in any case opens the second tab",
         stringArgs({QStringList{"CUSTOM;Own"} + lines, {"RMS"}}),
-        "[{\"choose\": \"measureItemsListBox\", \"text\": \"CUSTOM\"}, " + kNextTab + ", {\"set\": \"labelEdit\", \"text\": \"Pk\"},"
+        "[{\"choose\": \"measureItemsListBox\", \"text\": \"CUSTOM\"}, " + customTab + ", {\"set\": \"labelEdit\", \"text\": \"Pk\"},"
         " {\"check\": \"cbSaveDefs\"}, {\"set\": \"shortDescriptionEdit\", \"text\": \"Peak\"}, {\"accept\": true}]",
         true, measureResult("CUSTOM", "000", {"Pk", "", "1", "", "Peak", ""}),
         {"tabCustom.enabled=true", "saveDefinitionGroupBox.enabled=true"});
     row("leaving custom closes the tab and keeps its text",
         stringArgs({lines, {"Custom"}}),
-        "[" + kNextTab + ", {\"set\": \"editBox6\", \"text\": \"%.3g\"}, " + kNextTab + ", {\"choose\": \"measureItemsListBox\", \"text\": \"Mean\"},"
+        "[" + customTab + ", {\"set\": \"editBox6\", \"text\": \"%.3g\"}, " + listTab + ", {\"choose\": \"measureItemsListBox\", \"text\": \"Mean\"},"
         " {\"accept\": true}]",
         true, measureResult("Mean", "000", {"", "", "0", "%.3g", "", ""}), {"tabCustom.enabled=false"});
     row("a line of a name only describes itself", stringArgs({{"Peak"}}),
