@@ -78,6 +78,8 @@ const QStringList implemented = {
     "BRELVONSearchIdx", "ThdWeight",     "ParseEscape",          "ScanEscape",
     "PerCycleTiming",   "PerCycleValue", "_TestPerCycleFunction", "EditBrelvonFilter",
     "ConvergenceDialog",
+    "PerCycleTiming",   "PerCycleValue", "_TestPerCycleFunction",
+    "MeasureDialog",    "ManageMeasureDialog", "EditStylesDialog", "CreateNewTitleBlockDialog",
 };
 
 ScriptValue strings(std::vector<std::string> s)
