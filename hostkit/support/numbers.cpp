@@ -60,28 +60,29 @@ double sp_ConvertEngToReal(const char* text, char** end)
     }
     const char* p = stop;
     double scale = 1.0;
+    int exponent = 0; // the suffix as a power of ten, when it is one
     if (startsWithNoCase(p, "MEG")) {
-        scale = 1e6;
+        exponent = 6;
         p += 3;
     } else if (startsWithNoCase(p, "MIL")) {
         scale = 25.4e-6;
         p += 3;
     } else if (static_cast<unsigned char>(p[0]) == 0xC2 && static_cast<unsigned char>(p[1]) == 0xB5) {
-        scale = 1e-6;
+        exponent = -6;
         p += 2;
     } else if (static_cast<unsigned char>(p[0]) == 0xB5) {
-        scale = 1e-6;
+        exponent = -6;
         p += 1;
     } else {
         switch (std::toupper(static_cast<unsigned char>(*p))) {
-        case 'T': scale = 1e12; ++p; break;
-        case 'G': scale = 1e9; ++p; break;
-        case 'K': scale = 1e3; ++p; break;
-        case 'M': scale = 1e-3; ++p; break;
-        case 'U': scale = 1e-6; ++p; break;
-        case 'N': scale = 1e-9; ++p; break;
-        case 'P': scale = 1e-12; ++p; break;
-        case 'F': scale = 1e-15; ++p; break;
+        case 'T': exponent = 12; ++p; break;
+        case 'G': exponent = 9; ++p; break;
+        case 'K': exponent = 3; ++p; break;
+        case 'M': exponent = -3; ++p; break;
+        case 'U': exponent = -6; ++p; break;
+        case 'N': exponent = -9; ++p; break;
+        case 'P': exponent = -12; ++p; break;
+        case 'F': exponent = -15; ++p; break;
         default: break;
         }
     }
@@ -89,6 +90,14 @@ double sp_ConvertEngToReal(const char* text, char** end)
         ++p;
     if (end)
         *end = const_cast<char*>(p);
+    if (exponent != 0) {
+        // "10u" is the double nearest to 1e-5, as "10e-6" reads; 10 times
+        // 1e-6 would be one unit off. Only plain decimals take the exponent.
+        const std::string digits(text, static_cast<std::size_t>(stop - text));
+        if (digits.find_first_not_of("+-.0123456789 \t\n\r\f\v") == std::string::npos)
+            return strtodC((digits + 'e' + std::to_string(exponent)).c_str(), nullptr);
+        return value * std::pow(10.0, exponent);
+    }
     return value * scale;
 }
 

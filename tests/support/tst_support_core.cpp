@@ -115,6 +115,9 @@ void TestSupportCore::engToReal_data()
     QTest::newRow("exponent and suffix") << QByteArray("1e3k") << 1e6 << 4;
     QTest::newRow("negative") << QByteArray("-2.5K") << -2500.0 << 5;
     QTest::newRow("space before suffix") << QByteArray("10 k") << 10.0 << 2;
+    // The nearest double, as the same number with an exponent reads.
+    QTest::newRow("10u is 1e-5 exactly") << QByteArray("10u") << 1e-5 << 3;
+    QTest::newRow("4.7n is 4.7e-9 exactly") << QByteArray("4.7n") << 4.7e-9 << 4;
     QTest::newRow("no number") << QByteArray("abc") << 0.0 << 0;
     QTest::newRow("empty") << QByteArray("") << 0.0 << 0;
 }
@@ -127,7 +130,8 @@ void TestSupportCore::engToReal()
     const char* input = text.isNull() ? nullptr : text.constData();
     char* end = nullptr;
     const double value = sp_ConvertEngToReal(input, &end);
-    QVERIFY2(near(value, expected), qPrintable(QString::number(value, 'g', 17)));
+    // To the last bit: a suffix is an exponent, not a multiplication.
+    QVERIFY2(value == expected, qPrintable(QString::number(value, 'g', 17)));
     QCOMPARE(end ? int(end - input) : -1, input ? endOffset : -1);
     QVERIFY(near(sp_ConvertEngToReal(input, nullptr), expected));
     // The QString overload parses a temporary copy, so end can't point into it.
