@@ -14,8 +14,9 @@
 // ":/16x16_downarrow_transparent_bg.png", ":/16x16_rising_edge_no_frame.png",
 // ":/16x16_falling_edge_no_frame.png", ":/shift_left_32.png",
 // ":/shift_right_32.png", ":/stop.png", ":/options.png",
-// ":/qmessagebox-warn_transparent_bg.png", ":/qmessagebox-quest_transparent_bg.png"
-// and ":/qmessagebox-info_transparent_bg.png" as it loads.
+// ":/qmessagebox-warn_transparent_bg.png", ":/qmessagebox-quest_transparent_bg.png",
+// ":/qmessagebox-info_transparent_bg.png", ":/16x16_rightarrow_transparent_bg.png"
+// and ":/threshold_hysteresis.png" as it loads.
 #pragma once
 
 #include <QCheckBox>

@@ -1,6 +1,7 @@
 #include "engine.h"
 
 #include "dialogs.h"
+#include "pwldialog.h"
 #include "hostsupport.h"
 
 #include <QDialog>
@@ -234,6 +235,7 @@ struct Engine::Private {
 Engine::Engine() : d(new Private)
 {
     d->hostFunctions["XfromY"] = &xFromY;
+    d->hostFunctions["PWLDialog"] = &pwlDialog;
     d->dialogRunner = &runBoundDialog;
 }
 

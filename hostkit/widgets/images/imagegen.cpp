@@ -19,9 +19,9 @@ QColor ink()
     return QColor(40, 40, 40);
 }
 
-QImage canvas(int size)
+QImage canvas(int width, int height)
 {
-    QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
+    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     return image;
 }
@@ -177,10 +177,49 @@ void drawInfo(QPainter& p, int size)
     p.drawRoundedRect(QRectF(s * 0.44, s * 0.42, s * 0.12, s * 0.38), s * 0.03, s * 0.03);
 }
 
+// A filled arrow pointing right, for "this becomes that".
+void drawRightArrow(QPainter& p, int size)
+{
+    const qreal s = size;
+    p.setPen(Qt::NoPen);
+    p.setBrush(ink());
+    p.drawPolygon(QPolygonF({QPointF(s * 0.1, s * 0.4), QPointF(s * 0.52, s * 0.4), QPointF(s * 0.52, s * 0.18),
+                             QPointF(s * 0.92, s * 0.5), QPointF(s * 0.52, s * 0.82), QPointF(s * 0.52, s * 0.6),
+                             QPointF(s * 0.1, s * 0.6)}));
+}
+
+// A comparator with hysteresis: a triangle input crossing the upper and the
+// lower threshold (dashed, TH above TL by the hysteresis), and the output
+// that switches at the upper threshold going up and the lower going down.
+void drawThresholdHysteresis(QPainter& p, int width, int height)
+{
+    const qreal w = width, h = height;
+    const qreal top = h * 0.08, bottom = h * 0.56;        // input panel
+    const qreal outHigh = h * 0.66, outLow = h * 0.92;    // output panel
+    const qreal th = top + (bottom - top) * 0.35, tl = top + (bottom - top) * 0.65;
+    p.fillRect(QRectF(0, 0, w, h), Qt::white);
+    p.setPen(QPen(QColor(150, 150, 150), 1.0, Qt::DashLine));
+    p.drawLine(QPointF(0, th), QPointF(w, th));
+    p.drawLine(QPointF(0, tl), QPointF(w, tl));
+    // Input: up from bottom to top over the first half, down again after.
+    const qreal x0 = w * 0.04, xm = w * 0.5, x1 = w * 0.96;
+    p.setPen(QPen(QColor(20, 90, 200), 2.0));
+    p.drawPolyline(QPolygonF({QPointF(x0, bottom), QPointF(xm, top), QPointF(x1, bottom)}));
+    const qreal riseAt = x0 + (xm - x0) * (bottom - th) / (bottom - top);
+    const qreal fallAt = xm + (x1 - xm) * (tl - top) / (bottom - top);
+    p.setPen(QPen(QColor(200, 60, 30), 2.0));
+    p.drawPolyline(QPolygonF({QPointF(x0, outLow), QPointF(riseAt, outLow), QPointF(riseAt, outHigh),
+                              QPointF(fallAt, outHigh), QPointF(fallAt, outLow), QPointF(x1, outLow)}));
+    p.setPen(QPen(QColor(120, 120, 120), 1.0, Qt::DotLine));
+    p.drawLine(QPointF(riseAt, th), QPointF(riseAt, outHigh));
+    p.drawLine(QPointF(fallAt, tl), QPointF(fallAt, outHigh));
+}
+
 struct Picture {
     const char* file;
-    int size;
-    std::function<void(QPainter&, int)> draw;
+    int width;
+    int height;
+    std::function<void(QPainter&, int)> draw; // drawn at the width
 };
 
 } // namespace
@@ -194,25 +233,27 @@ int main(int argc, char** argv)
     }
     const QString directory = QString::fromLocal8Bit(argv[1]);
     const Picture pictures[] = {
-        {"16x16_uparrow_transparent_bg.png", 16, [](QPainter& p, int s) { drawArrow(p, s, true); }},
-        {"16x16_downarrow_transparent_bg.png", 16, [](QPainter& p, int s) { drawArrow(p, s, false); }},
-        {"16x16_rising_edge_no_frame.png", 16, [](QPainter& p, int s) { drawEdge(p, s, true); }},
-        {"16x16_falling_edge_no_frame.png", 16, [](QPainter& p, int s) { drawEdge(p, s, false); }},
-        {"shift_left_32.png", 32, [](QPainter& p, int s) { drawShift(p, s, true); }},
-        {"shift_right_32.png", 32, [](QPainter& p, int s) { drawShift(p, s, false); }},
-        {"stop.png", 32, drawStop},
-        {"options.png", 32, drawOptions},
-        {"qmessagebox-warn_transparent_bg.png", 32, drawWarning},
-        {"qmessagebox-quest_transparent_bg.png", 32, drawQuestion},
-        {"qmessagebox-info_transparent_bg.png", 32, drawInfo},
+        {"16x16_uparrow_transparent_bg.png", 16, 16, [](QPainter& p, int s) { drawArrow(p, s, true); }},
+        {"16x16_downarrow_transparent_bg.png", 16, 16, [](QPainter& p, int s) { drawArrow(p, s, false); }},
+        {"16x16_rising_edge_no_frame.png", 16, 16, [](QPainter& p, int s) { drawEdge(p, s, true); }},
+        {"16x16_falling_edge_no_frame.png", 16, 16, [](QPainter& p, int s) { drawEdge(p, s, false); }},
+        {"shift_left_32.png", 32, 32, [](QPainter& p, int s) { drawShift(p, s, true); }},
+        {"shift_right_32.png", 32, 32, [](QPainter& p, int s) { drawShift(p, s, false); }},
+        {"stop.png", 32, 32, drawStop},
+        {"options.png", 32, 32, drawOptions},
+        {"qmessagebox-warn_transparent_bg.png", 32, 32, drawWarning},
+        {"qmessagebox-quest_transparent_bg.png", 32, 32, drawQuestion},
+        {"qmessagebox-info_transparent_bg.png", 32, 32, drawInfo},
+        {"16x16_rightarrow_transparent_bg.png", 16, 16, drawRightArrow},
+        {"threshold_hysteresis.png", 160, 100, [](QPainter& p, int) { drawThresholdHysteresis(p, 160, 100); }},
     };
     int failures = 0;
     for (const Picture& picture : pictures) {
-        QImage image = canvas(picture.size);
+        QImage image = canvas(picture.width, picture.height);
         {
             QPainter painter(&image);
             setUp(painter);
-            picture.draw(painter, picture.size);
+            picture.draw(painter, picture.width);
         }
         const QString path = directory + QLatin1Char('/') + QString::fromLatin1(picture.file);
         if (!image.save(path, "PNG")) {
