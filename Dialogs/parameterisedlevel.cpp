@@ -36,6 +36,7 @@ void ParameterisedLevel::setParameterized(bool on)
 
 void ParameterisedLevel::showLevel(int level)
 {
+    m_shownLevel = level;
     if (m_valueEdit && !isExpression(m_valueEdit->text()))
         m_valueEdit->setText(QString::number(level));
 }
@@ -74,8 +75,12 @@ void ParameterisedLevel::contextMenu(const QPoint& pos)
         }
     } else {
         setParameterized(false);
-        if (m_rules.resetOnRemove && m_valueEdit && m_levels)
-            m_valueEdit->setText(QString::number(m_levels->selectedId()));
+        // An expression loaded at start checks no button; the level its
+        // pages show stands in for it then.
+        if (m_rules.resetOnRemove && m_valueEdit && m_levels) {
+            const int selected = m_levels->selectedId();
+            m_valueEdit->setText(QString::number(selected >= 0 ? selected : m_shownLevel));
+        }
     }
     emit parameterizationChanged(m_parameterized);
 }

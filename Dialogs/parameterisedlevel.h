@@ -71,5 +71,6 @@ private:
     QGroupBox* m_valueGroup = nullptr;
     EditBox* m_valueEdit = nullptr;
     Rules m_rules;
+    int m_shownLevel = 0;
     bool m_parameterized = false;
 };
