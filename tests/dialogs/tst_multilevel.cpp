@@ -6,6 +6,7 @@
 #include "hostwidgets.h"
 #include "pwldialog.h"
 #include "pwltext.h"
+#include "shuntresistancecalculatordialog.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -133,6 +134,9 @@ private slots:
     void pwlParseRefuses();
     void pwlTableRules_data();
     void pwlTableRules();
+
+    void calculator_data();
+    void calculator();
 
     void multiLevel_data();
     void multiLevel() { check("EditMultiLevelInductorCapacitorDialog"); }
@@ -303,6 +307,48 @@ void TestMultiLevel::pwlTableRules()
         QCOMPARE(found, QString());
     else
         QVERIFY2(found.contains(problem), qPrintable(found));
+}
+
+// ------------------------------------------------------------ calculator
+
+void TestMultiLevel::calculator_data()
+{
+    QTest::addColumn<QString>("inductance");
+    QTest::addColumn<bool>("editable");
+    QTest::addColumn<QStringList>("typed"); // into the inductance, in turn
+    QTest::addColumn<QString>("frequency");
+    QTest::addColumn<QString>("shown");
+
+    QTest::newRow("1u at 10G") << "1u" << false << QStringList{} << "" << "62.8319k";
+    QTest::newRow("expression is never evaluated") << "{L}" << false << QStringList{} << "" << "1k";
+    QTest::newRow("emptied inductance keeps the last result")
+        << "1u" << true << QStringList{"2u", ""} << "" << "125.664k";
+    QTest::newRow("a number after an expression computes again")
+        << "{L}" << true << QStringList{"1m"} << "1Meg" << "6.28319k";
+    QTest::newRow("only the frequency is a magnitude")
+        << "-1u" << false << QStringList{} << "-1Meg" << "-6.28319";
+}
+
+void TestMultiLevel::calculator()
+{
+    QFETCH(QString, inductance);
+    QFETCH(bool, editable);
+    QFETCH(QStringList, typed);
+    QFETCH(QString, frequency);
+    QFETCH(QString, shown);
+
+    ShuntResistanceCalculatorDialog dialog(nullptr, "test", inductance, editable);
+    auto* field = dialog.findChild<Spinner*>(QStringLiteral("inductance"));
+    QVERIFY(field);
+    QCOMPARE(field->isEnabled(), editable);
+    if (!frequency.isEmpty())
+        dialog.findChild<Spinner*>(QStringLiteral("spinnerF"))->setText(frequency);
+    for (const QString& text : qAsConst(typed))
+        field->setText(text);
+    QCOMPARE(dialog.findChild<Spinner*>(QStringLiteral("newValue"))->text(), shown);
+    QMetaObject::invokeMethod(&dialog, "closeDialog");
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    QCOMPARE(dialog.resultText(), shown);
 }
 
 // ---------------------------------------------- EditMultiLevelInductorCapacitor
