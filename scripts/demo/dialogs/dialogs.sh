@@ -47,3 +47,25 @@ show call EditStylesDialog '["Wire", "Instance", "Bus", "Annotation"]' \
   '["noduplicate"]' '["Wire|lineColour:255 lineType:0 lineThickness:0 fontFamily:\"arial\" fontBold:0 fontSize:9 '"$styletail"' "]' \
   --answer $d/editstyles.json
 show call CreateNewTitleBlockDialog @$d/titleblock-block.json --answer $d/titleblock.json
+show call EditMultiLevelInductorCapacitorDialog \
+  '["0", "0", "0.5", "23.5u", "2", "90u", "4", "152u", "6.3", "196u"]' '["PWL Capacitance", "V", "C"]' \
+  '["", "10", "Gaussian", "100Meg", "5", "Uniform", "10m", "5", "Gaussian", "1n", "5", "Gaussian", "1k", "0", "0", "0", "1", "2"]' \
+  '["pwlc", "None|Gaussian|Uniform", "", "1200"]' --answer $d/multilevel_pwlc.json
+show call EditMultiLevelInductorCapacitorDialog '[]' '[]' \
+  '["4.7u", "10", "Gaussian", "20m", "5", "Uniform", "2k", "0", "0", "1", "3", "0"]' \
+  '["l", "None|Gaussian|Uniform", "", "1201"]' --answer $d/multilevel_inductor.json
+show call EditMultiLevelInductorCapacitorDialog '[]' '[]' \
+  '["100u", "20", "Gaussian", "100Meg", "5", "Uniform", "22m", "5", "Gaussian", "10n", "5", "Gaussian", "1k", "0", "0", "0", "1", "3"]' \
+  '["c", "None|Gaussian|Uniform"]' --answer $d/shuntcalculator.json
+show call EditMultiLevelInductorCapacitorDialog '[]' '[]' \
+  '["1u", "10", "Gaussian", "100Meg", "5", "Uniform", "10m", "5", "Gaussian", "1n", "5", "Gaussian", "1k", "0", "0", "0", "1", "1"]' \
+  '["c", "None|Gaussian|Uniform"]' --answer $d/multilevel_parameterised.json
+show call EditBrelvonMosfetDriverDialog \
+  '["2", "0", "1", "2.5", "1", "15n", "10n", "1", "10Meg", "2", "1", "10Meg", "3", "OFF", "10Meg", "10Meg", "0", "0", "10", "500m", "10Meg", "500m", "2", "10", "500m", "10Meg", "100m", "3"]' \
+  '["Edit Gate Driver", "\"OFF\"|\"ON\"", "233"]' --answer $d/mosfetdriver.json
+show call EditParameterisedOpampDialog \
+  '["{OpLevel}", "1m", "100n", "10n", "100k", "1Meg", "1Meg", "1Meg", "100k", "100k", "10Meg", "20m", "20m", "100", "50", "10m", "1", "1", "1"]' \
+  '["BRELVON"]' --answer $d/opamp_brelvon.json
+show call EditParameterisedOpampDialog \
+  '["1m", "100n", "10n", "100k", "1Meg", "1Meg", "1Meg", "100k", "100k", "10Meg", "100", "10m", "1", "1", "1m"]' \
+  --answer $d/opamp_vantrell.json
