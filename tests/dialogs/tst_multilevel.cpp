@@ -3,6 +3,7 @@
 // "PWLDialog" and the PWL text form, called through the engine on the
 // built module and answered as a user would.
 #include "dialogtest.h"
+#include "hostsupport.h"
 #include "hostwidgets.h"
 #include "pwldialog.h"
 #include "pwltext.h"
@@ -149,6 +150,8 @@ private slots:
     void opamp_data();
     void opamp() { check("EditParameterisedOpampDialog"); }
     void opampAcResistanceWarning();
+    void helpTopics_data();
+    void helpTopics();
 
 private:
     // Columns: args, steps, hasResult, expected ("size=N" and "i=text"
@@ -722,6 +725,39 @@ void TestMultiLevel::opampAcResistanceWarning()
              QStringLiteral("The maximum value of the <b>Output AC Resistance</b> must be less than the "
                             "<b>Output Resistance</b> value."));
     QCOMPARE(textsOf(a.result).value(14), QStringLiteral("100"));
+}
+
+// ------------------------------------------------------------------- help
+
+void TestMultiLevel::helpTopics_data()
+{
+    QTest::addColumn<QString>("function");
+    QTest::addColumn<Args>("args");
+    QTest::addColumn<QStringList>("topics");
+
+    QTest::newRow("capacitor: the context number of argument 3")
+        << "EditMultiLevelInductorCapacitorDialog"
+        << multiArgs({}, {}, capValues("1"), {"", kDists, "", "1200"}) << QStringList{"1200"};
+    QTest::newRow("driver: the topic text as given")
+        << "EditBrelvonMosfetDriverDialog" << stringArgs({driverValues("1"), {"T", "a|b", "Driver_Help"}})
+        << QStringList{"Driver_Help"};
+    QTest::newRow("opamp: one request a click")
+        << "EditParameterisedOpampDialog" << stringArgs({brelvonValues("1"), {"BRELVON"}})
+        << QStringList{QString::number(sp_GetHelpContextId(YString("Parameterised_Opamp_BRELVON")))};
+}
+
+void TestMultiLevel::helpTopics()
+{
+    QFETCH(QString, function);
+    QFETCH(Args, args);
+    QFETCH(QStringList, topics);
+    const Answered a = answer(m_engine, function.toLatin1().constData(), args,
+                              R"([{"click": "helpButton"}, {"cancel": true}])");
+    QVERIFY2(a.ok, qPrintable(a.failure));
+    QStringList seen;
+    for (const QJsonObject& e : a.eventsOf(QStringLiteral("help")))
+        seen << e.value(QLatin1String("help")).toString();
+    QCOMPARE(seen, topics);
 }
 
 QTEST_MAIN(TestMultiLevel)
