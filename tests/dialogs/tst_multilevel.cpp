@@ -155,7 +155,8 @@ private slots:
 
 private:
     // Columns: args, steps, hasResult, expected ("size=N" and "i=text"
-    // about the result), facts ("key=value", read before the steps).
+    // about the result, "@object.field=value" about the last inspect line
+    // of an object), facts ("key=value", read before the steps).
     static void columns();
     void check(const char* function);
 
@@ -209,6 +210,15 @@ void TestMultiLevel::check(const char* function)
     QStringList got;
     for (const QString& e : qAsConst(expected)) {
         const QString key = e.section(QLatin1Char('='), 0, 0);
+        if (key.startsWith(QLatin1Char('@'))) {
+            // "@object.field": that field of the object's last inspect line.
+            const QJsonObject line = a.inspected(key.mid(1).section(QLatin1Char('.'), 0, 0));
+            const QJsonValue v = line.value(key.section(QLatin1Char('.'), -1));
+            const QString text = v.isArray() ? v.toVariant().toStringList().join(QLatin1Char(','))
+                                 : v.isString() ? v.toString() : v.toVariant().toString();
+            got << key + QLatin1Char('=') + text;
+            continue;
+        }
         if (key == QLatin1String("size")) {
             got << QStringLiteral("size=") + QString::number(result.size());
             continue;
@@ -441,12 +451,17 @@ void TestMultiLevel::multiLevel_data()
     QTest::newRow("a radio click rewrites a plain level")
         << multiArgs({}, {}, capValues("3"), cap) << R"([{"radio": "radiogroupLevel", "id": 0}, {"accept": true}])"
         << true << QStringList{"17=0"} << none;
-    QTest::newRow("parameterize: top level, then an expression typed")
+    QTest::newRow("parameterize: top level, radios locked, then an expression typed")
         << multiArgs({}, {}, capValues("1"), cap)
         << R"([{"menu": "radiogroupLevel", "action": "Parameterize Model Level"},
-               {"set": "esl", "text": "3n"},
+               {"inspect": "radiogroupLevel"}, {"inspect": "radiobutton1"}, {"inspect": "groupBoxParamValue"},
+               {"inspect": "toolButtonEslShuntCalculate"}, {"set": "esl", "text": "3n"},
                {"set": "editboxRadioReturn", "text": "{lvl}"}, {"accept": true}])"
-        << true << QStringList{"9=3n", "17={lvl}"} << none;
+        << true
+        << QStringList{"9=3n", "17={lvl}", "@radiogroupLevel.current=3", "@radiobutton1.enabled=false",
+                       "@groupBoxParamValue.visible=true", "@toolButtonEslShuntCalculate.enabled=true"}
+        << none;
+
     QTest::newRow("inductor parameterize goes to level 1")
         << multiArgs({}, {}, indValues("0"), ind)
         << R"([{"menu": "radiogroupLevel", "action": "Parameterize Model Level"}, {"set": "esr_l", "text": "33m"}, {"accept": true}])"
@@ -454,8 +469,21 @@ void TestMultiLevel::multiLevel_data()
     QTest::newRow("remove parameterization keeps the expression through radio clicks")
         << multiArgs({}, {}, capValues("{x}"), cap)
         << R"([{"menu": "radiogroupLevel", "action": "Remove Parameterization"},
-               {"radio": "radiogroupLevel", "id": 1}, {"accept": true}])"
-        << true << QStringList{"17={x}"} << none;
+               {"inspect": "groupBoxParamValue"}, {"radio": "radiogroupLevel", "id": 1},
+               {"inspect": "esr"}, {"accept": true}])"
+        << true << QStringList{"17={x}", "@groupBoxParamValue.hidden=true", "@esr.enabled=false"} << none;
+    QTest::newRow("an expression or nothing in ESL turns the calculator off")
+        << multiArgs({}, {}, capValues("3"), cap)
+        << R"([{"set": "esl", "text": "{L1}"}, {"inspect": "toolButtonEslShuntCalculate"}, {"accept": true}])"
+        << true << QStringList{"9={L1}", "@toolButtonEslShuntCalculate.enabled=false"} << none;
+    QTest::newRow("inductor Monte Carlo page: the shunt row is off for good")
+        << multiArgs({}, {}, indValues("1"), ind)
+        << R"([{"choose": "tW", "text": "Monte Carlo Parameters"}, {"inspect": "tW"},
+               {"inspect": "esl_shunt_tol_l"}, {"inspect": "esl_shunt_dist_l"}, {"accept": true}])"
+        << true
+        << QStringList{"size=12", "@tW.items=Parameters,Monte Carlo Parameters", "@tW.current=1",
+                       "@esl_shunt_tol_l.enabled=false", "@esl_shunt_dist_l.text=None"}
+        << none;
     QTest::newRow("calculator from ESL: 1u at 10G")
         << multiArgs({}, {}, capValues("3", "1u") .replaceInStrings(QStringLiteral("2n"), QStringLiteral("1u")), cap)
         << R"([{"click": "toolButtonEslShuntCalculate"}, {"wait": "test"}, {"accept": true}, {"accept": true}])"
@@ -623,8 +651,17 @@ void TestMultiLevel::mosfetDriver_data()
         << true << QStringList{"0={lvl}", "9=5"} << none;
     QTest::newRow("parameterize keeps the level until the user types")
         << stringArgs({driverValues("1"), header})
-        << R"([{"menu": "radiogroupLevel", "action": "Parameterize Model Level"}, {"accept": true}])"
-        << true << QStringList{"0=1"} << none;
+        << R"([{"menu": "radiogroupLevel", "action": "Parameterize Model Level"},
+               {"inspect": "groupBoxParamValue"}, {"inspect": "radiobutton2"}, {"accept": true}])"
+        << true << QStringList{"0=1", "@groupBoxParamValue.visible=true", "@radiobutton2.enabled=true"} << none;
+    QTest::newRow("level 2 clicked: PWL pages in, on-state voltages off")
+        << stringArgs({driverValues("0"), header})
+        << R"([{"radio": "radiogroupLevel", "id": 2}, {"inspect": "stackedWidgetHS"}, {"inspect": "groupboxOnStateV"},
+               {"inspect": ""}, {"accept": true}])"
+        << true
+        << QStringList{"0=2", "@stackedWidgetHS.current=1", "@groupboxOnStateV.enabled=false",
+                       "@.text=EditBrelvonMosfetDriverDialog_Level2"}
+        << none;
     QTest::newRow("parameterize, then type an expression")
         << stringArgs({driverValues("1"), header})
         << R"([{"menu": "radiogroupLevel", "action": "Parameterize Model Level"},
@@ -684,6 +721,12 @@ void TestMultiLevel::opamp_data()
         << R"([{"menu": "radiogroupLevel", "action": "Parameterize Model Level"},
                {"set": "gbw", "text": "5Meg"}, {"set": "editboxRadioReturn", "text": "{l}"}, {"accept": true}])"
         << true << QStringList{"0={l}", "5=5Meg"} << none;
+    QTest::newRow("parameterized, a click on level 1 still turns level 2 values off")
+        << stringArgs({brelvonValues("2"), {"BRELVON"}})
+        << R"([{"menu": "radiogroupLevel", "action": "Parameterize Model Level"},
+               {"radio": "radiogroupLevel", "id": 1}, {"inspect": "groupBoxLevel2"}, {"inspect": "editboxRadioReturn"},
+               {"accept": true}])"
+        << true << QStringList{"0=1", "@groupBoxLevel2.enabled=false", "@editboxRadioReturn.text=1"} << none;
     QTest::newRow("remove keeps the text")
         << stringArgs({brelvonValues("{lvl}"), {"BRELVON"}})
         << R"([{"menu": "radiogroupLevel", "action": "Remove Parameterization"}, {"accept": true}])"
