@@ -80,6 +80,8 @@ const QStringList implemented = {
     "ConvergenceDialog",
     "PerCycleTiming",   "PerCycleValue", "_TestPerCycleFunction",
     "MeasureDialog",    "ManageMeasureDialog", "EditStylesDialog", "CreateNewTitleBlockDialog",
+    "EditBrelvonMosfetDriverDialog", "EditMultiLevelInductorCapacitorDialog",
+    "EditParameterisedOpampDialog",
 };
 
 ScriptValue strings(std::vector<std::string> s)
