@@ -15,6 +15,7 @@
 #include <QMessageBox>
 #include <QShowEvent>
 
+#include <cmath>
 #include <new>
 
 namespace {
@@ -28,6 +29,13 @@ const double kNoLimit = 1e100;
 bool holdsBrace(const QString& text)
 {
     return text.contains(QLatin1Char('{'));
+}
+
+// Both resistances are plain numbers the rule can compare ("1e999" isn't).
+bool comparable(const Spinner* rout, const Spinner* roAc)
+{
+    return !holdsBrace(rout->text()) && !holdsBrace(roAc->text()) && std::isfinite(rout->value())
+           && std::isfinite(roAc->value());
 }
 
 } // namespace
@@ -207,11 +215,9 @@ void EditParameterisedOpampDialog::modelLevel_Changed(int level)
 
 void EditParameterisedOpampDialog::limitAcResistance()
 {
-    const QString rout = m_ui->rout->text();
-    const QString roAc = m_ui->ro_ac->text();
-    if (!holdsBrace(rout) && !holdsBrace(roAc))
+    if (comparable(m_ui->rout, m_ui->ro_ac))
         m_ui->ro_ac->setMax(m_ui->rout->value());
-    else if (holdsBrace(rout))
+    else if (holdsBrace(m_ui->rout->text()))
         m_ui->ro_ac->setMax(kNoLimit);
 }
 
@@ -219,7 +225,7 @@ void EditParameterisedOpampDialog::limitAcResistance()
 // value and its limit follow the output resistance.
 void EditParameterisedOpampDialog::rout_Changed()
 {
-    if (!holdsBrace(m_ui->rout->text()) && !holdsBrace(m_ui->ro_ac->text())) {
+    if (comparable(m_ui->rout, m_ui->ro_ac)) {
         const double rout = m_ui->rout->value();
         if (m_ui->ro_ac->value() >= rout)
             m_ui->ro_ac->setValue(rout - 1.0);
