@@ -1,0 +1,314 @@
+// Parsing of the descriptor text into a ParameterPageSpec. No widgets here,
+// so the parse can be tested and fuzzed on its own.
+#include "ParameterPages.h"
+
+#include "hostsupport.h"
+
+#include <climits>
+
+namespace parameterpages {
+
+namespace {
+
+constexpr int kFieldCount = 10;
+
+// Stands in for an escaped colon while the text is split. A plain text
+// substitution: the marker must never occur in real text.
+const char kColonMarker[] = "1!2@3#4$5%6";
+
+QStringList padded(QStringList fields)
+{
+    while (fields.size() > kFieldCount)
+        fields.removeLast();
+    while (fields.size() < kFieldCount)
+        fields << QString();
+    return fields;
+}
+
+QString orDefaultTab(const QString& tab)
+{
+    return tab.isEmpty() ? defaultTabTitle() : tab;
+}
+
+bool isKeyword(const QString& text, const char* keyword)
+{
+    return text.compare(QLatin1String(keyword), Qt::CaseInsensitive) == 0;
+}
+
+double engNumber(const QString& text)
+{
+    return sp_ConvertEngToReal(text, nullptr);
+}
+
+const ParameterDescriptor& emptyParameter()
+{
+    static const ParameterDescriptor empty;
+    return empty;
+}
+
+const GroupDescriptor& emptyGroup()
+{
+    static const GroupDescriptor empty;
+    return empty;
+}
+
+} // namespace
+
+QString defaultTabTitle()
+{
+    return QStringLiteral("Parameters");
+}
+
+QString buttonsGroupName()
+{
+    return QStringLiteral("*#!Buttons");
+}
+
+QStringList splitDescriptor(const QString& descriptor)
+{
+    const QString marker = QLatin1String(kColonMarker);
+    QString text = descriptor;
+    text.replace(QLatin1String("\\:"), marker);
+    QStringList fields = text.split(QLatin1Char(':'), Qt::KeepEmptyParts);
+    for (QString& field : fields)
+        field.replace(marker, QLatin1String(":"));
+    return padded(fields);
+}
+
+int atoiText(const QString& text)
+{
+    int i = 0;
+    const int n = text.size();
+    while (i < n && (text.at(i) == QLatin1Char(' ') || (text.at(i).unicode() >= 9 && text.at(i).unicode() <= 13)))
+        ++i;
+    bool negative = false;
+    if (i < n && (text.at(i) == QLatin1Char('+') || text.at(i) == QLatin1Char('-'))) {
+        negative = text.at(i) == QLatin1Char('-');
+        ++i;
+    }
+    long long value = 0;
+    for (; i < n && text.at(i) >= QLatin1Char('0') && text.at(i) <= QLatin1Char('9'); ++i) {
+        value = value * 10 + (text.at(i).unicode() - '0');
+        if (value > static_cast<long long>(INT_MAX) + 1)
+            value = static_cast<long long>(INT_MAX) + 1; // saturate, keep reading digits
+    }
+    if (negative)
+        value = -value;
+    if (value > INT_MAX)
+        return INT_MAX;
+    if (value < INT_MIN)
+        return INT_MIN;
+    return static_cast<int>(value);
+}
+
+QString replaceUnitPlaceholders(const QString& unit)
+{
+    QString text = unit;
+    text.replace(QLatin1String("__Ohms__"), QString(QChar(0x03A9)));
+    text.replace(QLatin1String("__degrees__"), QString(QChar(0x00B0)));
+    text.replace(QLatin1String("__micro__"), QString(QChar(0x00B5)));
+    text.replace(QLatin1String("__Mho__"), QString(QChar(0x2127)));
+    return text;
+}
+
+ParameterKind kindOfKeyword(const QString& keyword, bool* groupLike)
+{
+    ParameterKind kind = ParameterKind::Real;
+    if (keyword.isEmpty() || isKeyword(keyword, "real"))
+        kind = ParameterKind::Real;
+    else if (isKeyword(keyword, "integer") || isKeyword(keyword, "int"))
+        kind = ParameterKind::Integer;
+    else if (isKeyword(keyword, "string"))
+        kind = ParameterKind::String;
+    else if (isKeyword(keyword, "list"))
+        kind = ParameterKind::List;
+    else if (isKeyword(keyword, "bool"))
+        kind = ParameterKind::Bool;
+    else if (isKeyword(keyword, "label"))
+        kind = ParameterKind::StaticLabel;
+    else if (isKeyword(keyword, "group"))
+        kind = ParameterKind::PlainGroup;
+    else if (isKeyword(keyword, "groupcheckable") || isKeyword(keyword, "groupcheck")
+             || isKeyword(keyword, "check"))
+        kind = ParameterKind::CheckGroup;
+    if (groupLike)
+        *groupLike = kind == ParameterKind::PlainGroup || kind == ParameterKind::CheckGroup;
+    return kind;
+}
+
+ParameterPageSpec::ParameterPageSpec(const QStringList& tabs, const QStringList& params,
+                                     const QStringList& groups, const QStringList& values)
+{
+    parseTabs(tabs);
+    parseGroups(groups, values);
+    parseParameters(params, values);
+}
+
+ParameterPageSpec::ParameterPageSpec(const QStringList& params, const QStringList& values)
+{
+    parseParameters(params, values);
+}
+
+const ParameterDescriptor& ParameterPageSpec::parameter(int position) const
+{
+    if (position < 0 || position >= parameterCount())
+        return emptyParameter();
+    return m_parameters[static_cast<std::size_t>(position)];
+}
+
+const GroupDescriptor& ParameterPageSpec::group(int position) const
+{
+    if (position < 0 || position >= groupCount())
+        return emptyGroup();
+    return m_groups[static_cast<std::size_t>(position)];
+}
+
+QString ParameterPageSpec::tabTitle(int position) const
+{
+    return position >= 0 && position < m_tabs.size() ? m_tabs.at(position) : QString();
+}
+
+void ParameterPageSpec::parseTabs(const QStringList& tabs)
+{
+    int start = 0;
+    if (tabs.isEmpty() || tabs.first().isEmpty()) {
+        m_tabs << defaultTabTitle();
+        start = 1;
+    }
+    int unnamed = 0;
+    for (int i = start; i < tabs.size(); ++i) {
+        if (!tabs.at(i).isEmpty()) {
+            m_tabs << tabs.at(i);
+            continue;
+        }
+        ++unnamed;
+        m_tabs << defaultTabTitle() + QLatin1Char(' ')
+                      + toQs(sp_ConvertRealToJSEng(unnamed, 6, false));
+    }
+}
+
+void ParameterPageSpec::parseGroups(const QStringList& groups, const QStringList& values)
+{
+    m_groups.reserve(static_cast<std::size_t>(groups.size()));
+    for (int position = 0; position < groups.size(); ++position) {
+        // The host's own split has the last word on a group's fields, so an
+        // escaped colon is the host's to honour here, not ours.
+        QStringList fields = splitDescriptor(groups.at(position));
+        YArray<YString> hostFields;
+        for (const QString& field : fields)
+            hostFields.add(toYs(field));
+        sp_SplitLine(Tocs(groups.at(position)), ':', &hostFields, kFieldCount);
+        fields.clear();
+        for (long long i = 0; i < hostFields.count(); ++i)
+            fields << toQs(hostFields[i]);
+        fields = padded(fields);
+
+        GroupDescriptor g;
+        g.position = position;
+        g.tab = orDefaultTab(fields.at(0));
+        const QString& kind = fields.at(1);
+        const QString& checkField = fields.at(7);
+        if (isKeyword(kind, "groupcheck") || isKeyword(kind, "check")) {
+            g.checked = true;
+            if (!checkField.isEmpty()) {
+                g.isPlain = false;
+                const int index = atoiText(checkField);
+                if (index >= 0 && index < values.size())
+                    g.checked = atoiText(values.at(index)) != 0;
+            }
+        }
+        g.title = fields.at(2);
+        g.firstRow = atoiText(fields.at(3));
+        g.firstColumn = atoiText(fields.at(4));
+        g.lastRow = fields.at(5).isEmpty() ? g.firstRow : atoiText(fields.at(5));
+        g.lastColumn = fields.at(6).isEmpty() ? g.firstColumn : atoiText(fields.at(6));
+        if (!checkField.isEmpty()) {
+            const int index = atoiText(checkField);
+            g.elementIndex = index >= 0 && index <= kMaxElementIndex ? index : -1;
+        }
+        g.separatedColumns = atoiText(fields.at(8)) != 0;
+        const int width = atoiText(fields.at(9));
+        g.separatorWidth = width > 0 ? width : 6;
+
+        m_maxFirstRow = m_groups.empty() ? g.firstRow : qMax(m_maxFirstRow, g.firstRow);
+        m_maxFirstColumn = m_groups.empty() ? g.firstColumn : qMax(m_maxFirstColumn, g.firstColumn);
+        m_groups.push_back(g);
+    }
+}
+
+void ParameterPageSpec::parseParameters(const QStringList& params, const QStringList& values)
+{
+    m_parameters.reserve(static_cast<std::size_t>(params.size()));
+    int skipped = 0;
+    for (int position = 0; position < params.size(); ++position) {
+        const QStringList fields = splitDescriptor(params.at(position));
+        ParameterDescriptor p;
+        p.position = position;
+        p.name = fields.at(2);
+        p.unitText = fields.at(5);
+        p.tab = orDefaultTab(fields.at(0));
+        p.group = fields.at(1);
+        p.row = atoiText(fields.at(3));
+        p.column = atoiText(fields.at(4));
+        p.toolTip = fields.at(9);
+        p.takesFocus = position == 0;
+        p.kind = kindOfKeyword(fields.at(6), &p.isGroupLike);
+        if (p.kind == ParameterKind::Integer) {
+            p.minimum = 0;
+            p.maximum = 100;
+        }
+
+        const QString& flag = fields.at(8);
+        if (!flag.isEmpty()) {
+            const bool on = flag == QLatin1String("1");
+            if (p.kind == ParameterKind::String || p.kind == ParameterKind::List)
+                p.stringFlag = on;
+            else if (p.kind == ParameterKind::Real || p.kind == ParameterKind::Integer)
+                p.numberFlag = on;
+        }
+
+        const QString& range = fields.at(7);
+        if (!range.isEmpty()) {
+            p.items = range.split(QLatin1Char('|'), Qt::KeepEmptyParts);
+            if (p.kind == ParameterKind::Real || p.kind == ParameterKind::Integer) {
+                if (p.items.size() > 0)
+                    p.minimum = engNumber(p.items.at(0));
+                if (p.items.size() > 1)
+                    p.maximum = engNumber(p.items.at(1));
+                if (p.items.size() > 2)
+                    p.step = qMax(0.0, engNumber(p.items.at(2)));
+                if (!(p.step >= 0.0)) // NaN
+                    p.step = 0.0;
+            }
+        }
+
+        if (p.kind == ParameterKind::StaticLabel || p.kind == ParameterKind::PlainGroup) {
+            ++skipped;
+        } else {
+            p.elementIndex = position - skipped;
+            p.value = p.elementIndex < values.size() ? values.at(p.elementIndex)
+                                                     : QStringLiteral("0");
+        }
+        m_parameters.push_back(p);
+    }
+}
+
+bool groupHasSeparatedColumns(const ParameterPageSpec& spec, const QString& title)
+{
+    for (int g = 0; g < spec.groupCount(); ++g) {
+        if (spec.group(g).title.compare(title, Qt::CaseInsensitive) == 0)
+            return spec.group(g).separatedColumns;
+    }
+    return false;
+}
+
+int groupSeparatorWidth(const ParameterPageSpec& spec, const QString& title)
+{
+    for (int g = 0; g < spec.groupCount(); ++g) {
+        if (spec.group(g).title.compare(title, Qt::CaseInsensitive) == 0)
+            return spec.group(g).separatorWidth;
+    }
+    return 0;
+}
+
+} // namespace parameterpages
