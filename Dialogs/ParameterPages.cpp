@@ -5,6 +5,7 @@
 #include "hostsupport.h"
 
 #include <climits>
+#include <cstdio>
 
 namespace parameterpages {
 
@@ -291,6 +292,33 @@ void ParameterPageSpec::parseParameters(const QStringList& params, const QString
         }
         m_parameters.push_back(p);
     }
+}
+
+int descriptorSignature(const QStringList& params, const QStringList& info, int helpElement)
+{
+    QString signature;
+    YArray<YString> fields;
+    for (const QString& descriptor : params) {
+        sp_SplitLine(Tocs(descriptor), ':', &fields, 3);
+        if (fields.count() > 2)
+            signature += toQs(fields[2]);
+    }
+    if (helpElement >= 0 && helpElement < info.size())
+        signature += info.at(helpElement);
+    return static_cast<int>(toYs(signature).hashValue() % 1001u);
+}
+
+int helpTopicOf(const QStringList& info, int index)
+{
+    return index >= 0 && index < info.size() ? atoiText(info.at(index)) : -1;
+}
+
+void runHelpTopic(int topic)
+{
+    char buffer[16];
+    std::snprintf(buffer, sizeof buffer, "%d", topic);
+    int local = 0;
+    sp_RunHelp(RunHelpContext, buffer, &local, nullptr);
 }
 
 bool groupHasSeparatedColumns(const ParameterPageSpec& spec, const QString& title)

@@ -253,6 +253,19 @@ void placeGroups(const ParameterPageSpec& spec, PageMaps& maps,
 // Nested groups and parameters, by rules.
 void placeParameters(const ParameterPageSpec& spec, PageMaps& maps, const PlacementRules& rules);
 
+// ------------------------------------------------ helpers of the family
+
+// The number behind the object name of a dialog whose shape its arguments
+// decide, so that stored window geometry follows the set of parameters:
+// the names (field 2 of each parameter by a plain split at ":") and the
+// help topic element of info when present, hashed, modulo 1001.
+int descriptorSignature(const QStringList& params, const QStringList& info, int helpElement);
+// The help topic in element index of info, read as atoi reads it; -1 when
+// info is shorter.
+int helpTopicOf(const QStringList& info, int index);
+// Opens help topic number topic.
+void runHelpTopic(int topic);
+
 // Grid position and span as placement uses them, clamped to the grid's
 // sane range; a negative last row or column spans to the edge (-1).
 int gridIndex(int value);

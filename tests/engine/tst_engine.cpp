@@ -82,6 +82,7 @@ const QStringList implemented = {
     "MeasureDialog",    "ManageMeasureDialog", "EditStylesDialog", "CreateNewTitleBlockDialog",
     "EditBrelvonMosfetDriverDialog", "EditMultiLevelInductorCapacitorDialog",
     "EditParameterisedOpampDialog",
+    "TabValueDialog",
 };
 
 ScriptValue strings(std::vector<std::string> s)

@@ -1,0 +1,152 @@
+// TabValueDialog: tabs of device parameters, all described by the script's
+// descriptors, whose values go back as one result array through the
+// controls' bindings.
+#include "ParameterPages.h"
+#include "dialogcommon.h"
+#include "registration.h"
+
+#include "ui_tabvaluedialog.h"
+
+#include <QDialog>
+#include <QGridLayout>
+#include <QShowEvent>
+
+#include <memory>
+#include <new>
+
+namespace {
+
+enum Argument { ArgTabs, ArgGroups, ArgParams, ArgValues, ArgInfo };
+enum InfoElement { InfoTitle, InfoHeadline, InfoHelp };
+
+} // namespace
+
+class TabValueDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit TabValueDialog(QWidget* parent = nullptr, const char* name = nullptr);
+    ~TabValueDialog() override;
+
+    void loadArguments(UserFunctionInterface* call);
+
+public slots:
+    void formAccepted();
+    void runHelp();
+    void destroy();
+    void init();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void buildPages();
+
+    std::unique_ptr<Ui::TabValueDialog> m_ui;
+    std::unique_ptr<parameterpages::PageMaps> m_maps;
+    QStringList m_args[5];
+    int m_helpTopic = -1;
+    bool m_built = false;
+};
+
+TabValueDialog::TabValueDialog(QWidget* parent, const char* name)
+    : QDialog(parent)
+    , m_ui(new Ui::TabValueDialog)
+{
+    if (name)
+        setObjectName(QString::fromLatin1(name));
+    m_ui->setupUi(this);
+    setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
+    init();
+}
+
+TabValueDialog::~TabValueDialog()
+{
+    destroy();
+}
+
+void TabValueDialog::init()
+{
+    m_maps.reset(new parameterpages::PageMaps);
+}
+
+void TabValueDialog::destroy()
+{
+    m_maps.reset();
+}
+
+void TabValueDialog::loadArguments(UserFunctionInterface* call)
+{
+    for (int i = ArgTabs; i <= ArgInfo; ++i)
+        m_args[i] = dialogcommon::stringArg(call, i);
+    const QStringList& info = m_args[ArgInfo];
+    if (info.size() > InfoTitle)
+        setWindowTitle(info.at(InfoTitle));
+    if (dialogcommon::elementOr(info, InfoHeadline).isEmpty())
+        m_ui->labelTitle->hide();
+    m_helpTopic = parameterpages::helpTopicOf(info, InfoHelp);
+    if (m_helpTopic < 0)
+        m_ui->helpButton->hide();
+    const int signature = parameterpages::descriptorSignature(m_args[ArgParams], info, InfoHelp);
+    setObjectName(QStringLiteral("TabValueDialog_") + QString::number(signature));
+}
+
+void TabValueDialog::formAccepted()
+{
+    accept();
+}
+
+void TabValueDialog::runHelp()
+{
+    parameterpages::runHelpTopic(m_helpTopic);
+}
+
+void TabValueDialog::showEvent(QShowEvent* event)
+{
+    if (!m_built) {
+        m_built = true;
+        buildPages();
+    }
+    QDialog::showEvent(event);
+}
+
+void TabValueDialog::buildPages()
+{
+    using namespace parameterpages;
+    const ParameterPageSpec spec(m_args[ArgTabs], m_args[ArgParams], m_args[ArgGroups],
+                                 m_args[ArgValues]);
+    delete m_ui->tW->widget(0);
+    for (const QString& title : spec.tabTitles()) {
+        auto* page = new QWidget;
+        page->setObjectName(title);
+        auto* grid = new QGridLayout(page);
+        grid->setContentsMargins(11, 11, 11, 11);
+        grid->setSpacing(6);
+        grid->setAlignment(Qt::AlignTop);
+        m_maps->storePage(title, page, grid);
+        m_ui->tW->addTab(page, title);
+    }
+    placeGroups(spec, *m_maps);
+    PlacementRules rules;
+    rules.buttonLayout = m_ui->layoutButtons;
+    rules.buttonParent = this;
+    placeParameters(spec, *m_maps, rules);
+}
+
+namespace {
+
+QDialog* createTabValueDialog(UserFunctionInterface* call, void* /*unused*/)
+{
+    auto* dialog = new (std::nothrow) TabValueDialog(nullptr, "TabValueDialog");
+    if (!dialog)
+        return nullptr;
+    dialog->loadArguments(call);
+    return dialog;
+}
+
+} // namespace
+
+static const FunctionRegistration registerTabValueDialog("TabValueDialog", argLimits(0, 32),
+                                                         &createTabValueDialog);
+
+#include "tabvaluedialog.moc"

@@ -1,0 +1,327 @@
+// The descriptor-built dialogs (TabValueDialog, RadioSelectWidgetStackDialog,
+// LoopForgeEditComponentDialog, LoopForgeEditPWMDialog), called through the
+// engine on the built module and answered as a user would.
+#include "dialogtest.h"
+#include "hostsupport.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QDialog>
+#include <QFrame>
+#include <QGridLayout>
+#include <QLabel>
+#include <QStackedWidget>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QtTest>
+
+#include <functional>
+#include <memory>
+
+using namespace dialogtest;
+Q_DECLARE_METATYPE(Args)
+
+namespace {
+
+// Looks at the dialog a call opens before the driver answers it. The
+// answer script starts with {"wait": "probed"}: the probe sets that title
+// once it has looked, so its look and the driver's steps never race.
+class Probe {
+public:
+    explicit Probe(std::function<void(QDialog*)> look)
+        : m_look(std::move(look))
+    {
+        m_timer.setInterval(5);
+        QObject::connect(&m_timer, &QTimer::timeout, [this] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (!dialog || !dialog->isVisible())
+                return;
+            m_timer.stop();
+            m_look(dialog);
+            dialog->setWindowTitle(QStringLiteral("probed"));
+        });
+        m_timer.start();
+    }
+
+private:
+    std::function<void(QDialog*)> m_look;
+    QTimer m_timer;
+};
+
+QString itemName(QLayoutItem* item)
+{
+    if (item->widget())
+        return item->widget()->objectName();
+    return item->spacerItem() ? QStringLiteral("spacer") : QStringLiteral("layout");
+}
+
+// Where widget sits in its parent's grid: "row,column,rows,columns", or
+// "none" when it isn't in one.
+QString gridPlace(QWidget* widget)
+{
+    QWidget* parent = widget->parentWidget();
+    auto* grid = parent ? qobject_cast<QGridLayout*>(parent->layout()) : nullptr;
+    const int index = grid ? grid->indexOf(widget) : -1;
+    if (index < 0)
+        return QStringLiteral("none");
+    int row = 0, column = 0, rows = 0, columns = 0;
+    grid->getItemPosition(index, &row, &column, &rows, &columns);
+    return QStringLiteral("%1,%2,%3,%4").arg(row).arg(column).arg(rows).arg(columns);
+}
+
+// One fact about a shown dialog, as "key=value":
+//   name, title: the dialog's object name and window title
+//   tabs, pages: titles of the tab widget tW, object names of the stack wStack
+//   buttons: object names in the button row ("spacer" for its stretch)
+//   OBJ.shown: the widget's own hidden flag is clear; OBJ.enabled
+//   OBJ.grid: its place in the parent's grid; OBJ.class
+//   OBJ.separators: grid columns of the vertical lines in OBJ
+//   OBJ.icon: whether a label shows a picture; OBJ.PROPERTY: any property
+QString fact(QDialog* dialog, const QString& key)
+{
+    if (key == QLatin1String("name"))
+        return dialog->objectName();
+    if (key == QLatin1String("title"))
+        return dialog->windowTitle();
+    if (key == QLatin1String("tabs")) {
+        auto* tabs = dialog->findChild<QTabWidget*>(QStringLiteral("tW"));
+        QStringList out;
+        for (int i = 0; tabs && i < tabs->count(); ++i)
+            out << tabs->tabText(i);
+        return out.join(QLatin1Char('|'));
+    }
+    if (key == QLatin1String("pages")) {
+        auto* stack = dialog->findChild<QStackedWidget*>(QStringLiteral("wStack"));
+        QStringList out;
+        for (int i = 0; stack && i < stack->count(); ++i)
+            out << stack->widget(i)->objectName();
+        return out.join(QLatin1Char('|'));
+    }
+    if (key == QLatin1String("buttons")) {
+        QStringList out;
+        for (QBoxLayout* row : dialog->findChildren<QBoxLayout*>()) {
+            if (!row->objectName().startsWith(QLatin1String("layoutButtons")))
+                continue;
+            for (int i = 0; i < row->count(); ++i)
+                out << itemName(row->itemAt(i));
+        }
+        return out.join(QLatin1Char('|'));
+    }
+    const QString object = key.section(QLatin1Char('.'), 0, -2);
+    const QString property = key.section(QLatin1Char('.'), -1);
+    auto* widget = dialog->findChild<QWidget*>(object);
+    if (!widget)
+        return QStringLiteral("absent");
+    if (property == QLatin1String("shown"))
+        return QVariant(!widget->isHidden()).toString();
+    if (property == QLatin1String("enabled"))
+        return QVariant(widget->isEnabled()).toString();
+    if (property == QLatin1String("grid"))
+        return gridPlace(widget);
+    if (property == QLatin1String("class"))
+        return QString::fromLatin1(widget->metaObject()->className());
+    if (property == QLatin1String("icon")) {
+        if (auto* label = qobject_cast<QLabel*>(widget))
+            return QVariant(!label->pixmap(Qt::ReturnByValue).isNull()).toString();
+        auto* button = qobject_cast<QAbstractButton*>(widget);
+        return QVariant(button && !button->icon().isNull()).toString();
+    }
+    if (property == QLatin1String("separators")) {
+        QStringList out;
+        for (QFrame* line : widget->findChildren<QFrame*>(QString(), Qt::FindDirectChildrenOnly)) {
+            if (line->frameShape() == QFrame::VLine)
+                out << gridPlace(line).section(QLatin1Char(','), 1, 1);
+        }
+        return out.join(QLatin1Char(' '));
+    }
+    return widget->property(property.toLatin1()).toString();
+}
+
+QString signatureName(const char* prefix, const QString& text)
+{
+    return QLatin1String(prefix) + QString::number(toYs(text).hashValue() % 1001u);
+}
+
+} // namespace
+
+class TestParameterPages : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanup();
+
+    void tabValue_data();
+    void tabValue() { check("TabValueDialog"); }
+
+private:
+    static void columns();
+    void check(const char* function);
+
+    vtkit::Engine m_engine;
+    QTemporaryDir m_config;
+};
+
+void TestParameterPages::initTestCase()
+{
+    if (qEnvironmentVariableIsEmpty("VANTRELL_CONFIG_DIR")) {
+        QVERIFY(m_config.isValid());
+        qputenv("VANTRELL_CONFIG_DIR", m_config.path().toLocal8Bit());
+    }
+    QVERIFY(loadModule(m_engine));
+}
+
+void TestParameterPages::cleanup()
+{
+    QVERIFY(noTopLevelsLeft());
+}
+
+void TestParameterPages::columns()
+{
+    QTest::addColumn<Args>("args");
+    QTest::addColumn<QString>("steps");   // after the probe; "" is Ok
+    QTest::addColumn<bool>("hasResult");
+    QTest::addColumn<QStringList>("expected");
+    QTest::addColumn<QStringList>("facts");  // "key=value", see fact()
+    QTest::addColumn<QStringList>("events"); // "help=12", "messageBox=title|text"
+}
+
+void TestParameterPages::check(const char* function)
+{
+    QFETCH(Args, args);
+    QFETCH(QString, steps);
+    QFETCH(bool, hasResult);
+    QFETCH(QStringList, expected);
+    QFETCH(QStringList, facts);
+    QFETCH(QStringList, events);
+
+    QStringList seen;
+    Probe probe([&](QDialog* dialog) {
+        for (const QString& f : facts)
+            seen << f.section(QLatin1Char('='), 0, 0) + QLatin1Char('=')
+                        + fact(dialog, f.section(QLatin1Char('='), 0, 0));
+    });
+    const QString all = QStringLiteral("[{\"wait\": \"probed\"}, ")
+                        + (steps.isEmpty() ? QStringLiteral("{\"accept\": true}") : steps)
+                        + QLatin1Char(']');
+    const Answered answered = answer(m_engine, function, args, all.toUtf8());
+    QVERIFY2(answered.ok, qPrintable(answered.failure));
+    QCOMPARE(seen, facts);
+
+    QStringList gotEvents;
+    for (const QJsonObject& e : answered.events) {
+        if (e.contains(QLatin1String("help")))
+            gotEvents << QStringLiteral("help=") + e.value(QLatin1String("help")).toString();
+        if (e.contains(QLatin1String("messageBox"))) {
+            const QJsonObject box = e.value(QLatin1String("messageBox")).toObject();
+            gotEvents << QStringLiteral("messageBox=") + box.value(QLatin1String("title")).toString()
+                             + QLatin1Char('|') + box.value(QLatin1String("text")).toString();
+        }
+    }
+    QCOMPARE(gotEvents, events);
+
+    QCOMPARE(answered.result.hasResult, hasResult);
+    if (hasResult)
+        QCOMPARE(textsOf(answered.result), expected);
+}
+
+void TestParameterPages::tabValue_data()
+{
+    columns();
+    const QString ok;
+    const QString cancel = QStringLiteral("{\"cancel\": true}");
+
+    QTest::newRow("no arguments: one empty page, nothing returned")
+        << Args() << ok << true << QStringList()
+        << QStringList{"tabs=Parameters", "labelTitle.shown=false", "helpButton.shown=false",
+                       "name=" + signatureName("TabValueDialog_", ""),
+                       "title=Edit Device Parameters"}
+        << QStringList();
+
+    const QStringList tabs = {"Main", "Noise"};
+    const QStringList groups = {"Main::Values:0:0", "Noise:check:Flicker:0:0:::5"};
+    const QStringList params = {"Main:Values:R:0:0:k__Ohms__", "Main:Values:Note:1:0::label",
+                                "Main:Values:Mode:2:0::list:fast|slow", "Noise:Flicker:On:0:0::bool",
+                                "Main:Missing:Lost:0:0", "Main:values:Gain:3:0::int:0|10"};
+    const QStringList values = {"4.7k", "SLOW", "true", "9", "7"};
+    const QStringList info = {"Resistor R1", "<b>R1</b>", "12"};
+    QTest::newRow("numbering: labels take no element, a lost group drops its element")
+        << stringArgs({tabs, groups, params, values, info}) << ok << true
+        << QStringList{"4.7k", "slow", "1", "", "7", "1"}
+        << QStringList{"tabs=Main|Noise", "title=Resistor R1", "labelTitle.shown=true",
+                       "helpButton.shown=true", "parameter0.grid=0,1,1,1",
+                       "parameterLabel0.grid=0,0,1,1", "parameterUnit0.text=k\u03A9",
+                       "parameterLabel1.grid=1,0,1,3", "parameter4.class=absent",
+                       "parameter5.grid=3,1,1,1",
+                       "name=" + signatureName("TabValueDialog_", "RNoteModeOnLostGain12")}
+        << QStringList();
+    QTest::newRow("cancel gives no result")
+        << stringArgs({tabs, groups, params, values, info}) << cancel << false << QStringList()
+        << QStringList() << QStringList();
+    QTest::newRow("help runs its topic")
+        << stringArgs({tabs, groups, params, values, info})
+        << QStringLiteral("{\"click\": \"helpButton\"}, {\"accept\": true}") << true
+        << QStringList{"4.7k", "slow", "1", "", "7", "1"} << QStringList()
+        << QStringList{"help=12"};
+    QTest::newRow("edits come back in their elements")
+        << stringArgs({tabs, groups, params, values, info})
+        << QStringLiteral("{\"set\": \"parameter0\", \"text\": \"10k\"},"
+                          "{\"choose\": \"parameter2\", \"text\": \"fast\"},"
+                          "{\"accept\": true}")
+        << true << QStringList{"10k", "fast", "1", "", "7", "1"} << QStringList() << QStringList();
+    QTest::newRow("object name ignores values and headline")
+        << stringArgs({tabs, groups, params, {"1"}, {"Other", "", "12"}}) << ok << true
+        << QStringList{"1", "fast", "0", "", "0", "1"}
+        << QStringList{"labelTitle.shown=false",
+                       "name=" + signatureName("TabValueDialog_", "RNoteModeOnLostGain12")}
+        << QStringList();
+
+    QTest::newRow("buttons group: column 1 stands beside Ok")
+        << stringArgs({{}, {"::G"}, {":G:a", ":*#!buttons:Keep:0:1::bool"}, {"1", "1"},
+                       {"T", "", "-5"}})
+        << ok << true << QStringList{"1", "1"}
+        << QStringList{"buttons=spacer|parameter1|pushButtonOk|cancelButton|helpButton",
+                       "helpButton.shown=false"}
+        << QStringList();
+
+    QTest::newRow("separated columns: pitch 4 and separators from column 3")
+        << stringArgs({{}, {"::Wide:0:0::::1:9"},
+                       {":Wide:a:0:0", ":Wide:b:0:1", ":Wide:c:2:2"}, {"1", "2", "3"}})
+        << ok << true << QStringList{"1", "2", "3"}
+        << QStringList{"parameter1.grid=0,5,1,1", "parameter2.grid=2,9,1,1",
+                       "group0.separators=3 3 7", "group0.grid=0,0,1,1"}
+        << QStringList();
+
+    QTest::newRow("nested groups: own pass, named grid under tab + name")
+        << stringArgs({{}, {"::Outer"},
+                       {":Outer:a", ":Outer:Inner:1:0::check", ":Inner:b:0:0:", ":Outer:Plain:2:::group",
+                        ":Plain:c"},
+                       {"1", "0", "2", "3"}})
+        << ok << true << QStringList{"1", "0", "2", "3"}
+        << QStringList{"parameter1.grid=1,0,1,3", "parameter1.checked=false",
+                       "parameter2.grid=0,1,1,1", "parameter3.grid=2,0,1,3",
+                       "parameter4.grid=0,1,1,1"}
+        << QStringList();
+
+    QTest::newRow("a unit beside a lone control keeps the control out of the grid")
+        << stringArgs({{}, {"::G"}, {":G:Flag:0:0:V:bool"}, {"1"}}) << ok << true
+        << QStringList{"1"}
+        << QStringList{"parameter0.grid=none", "parameterUnit0.grid=0,2,1,1"} << QStringList();
+
+    QStringList wild;
+    wild << QString(29, QLatin1Char(':')) << QString() << ":G:x:2147483647:-2147483647"
+         << ":G:y:-5:99999999999999:zz:int:a|b|c:1" << "Nowhere:G:z" << ":G:::::list" << "::::::::";
+    QTest::newRow("bad input opens with what it can place")
+        << stringArgs({{"", ""}, {"::G:-9:2147483647:-1:-1:999999", "Gone::H"}, wild,
+                       {"1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "12"}, {}})
+        << ok << true << QStringList{"", "", "3", "4", "", ""}
+        << QStringList{"tabs=Parameters|Parameters 1", "parameter2.grid=255,1,1,1",
+                       "parameter3.grid=0,766,1,1"}
+        << QStringList();
+}
+
+QTEST_MAIN(TestParameterPages)
+#include "tst_parameterpages.moc"
