@@ -37,6 +37,7 @@
 class QBoxLayout;
 class QGridLayout;
 class QLabel;
+class QTabWidget;
 class QWidget;
 class GroupBox;
 
@@ -244,6 +245,12 @@ struct PlacementRules {
     // Called for each descriptor that got widgets, in placement order.
     std::function<void(const ParameterDescriptor&, const PlacedParameter&)> placed;
 };
+
+// One page per tab title with a top-aligned grid, stored under the title
+// and appended to tabs. A negative margin or spacing keeps the layout's
+// default.
+void makeTabPages(const ParameterPageSpec& spec, PageMaps& maps, QTabWidget* tabs, int margin,
+                  int spacing);
 
 // Group boxes into their tab pages, at their grid area; each stored with a
 // new top-aligned grid under tab + title. afterGroup runs for each group

@@ -10,6 +10,7 @@
 #include <QIcon>
 #include <QLabel>
 #include <QSpacerItem>
+#include <QTabWidget>
 
 #include <algorithm>
 
@@ -401,6 +402,22 @@ void PageMaps::storeGroup(const QString& key, QWidget* box, QGridLayout* grid)
 {
     m_groups[key] = box;
     m_groupGrids[key] = grid;
+}
+
+void makeTabPages(const ParameterPageSpec& spec, PageMaps& maps, QTabWidget* tabs, int margin,
+                  int spacing)
+{
+    for (const QString& title : spec.tabTitles()) {
+        auto* page = new QWidget;
+        page->setObjectName(title);
+        QGridLayout* grid = topAlignedGrid(page);
+        if (margin >= 0)
+            grid->setContentsMargins(margin, margin, margin, margin);
+        if (spacing >= 0)
+            grid->setSpacing(spacing);
+        maps.storePage(title, page, grid);
+        tabs->addTab(page, title);
+    }
 }
 
 void placeGroups(const ParameterPageSpec& spec, PageMaps& maps,

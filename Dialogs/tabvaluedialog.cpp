@@ -8,7 +8,6 @@
 #include "ui_tabvaluedialog.h"
 
 #include <QDialog>
-#include <QGridLayout>
 #include <QShowEvent>
 
 #include <memory>
@@ -116,16 +115,7 @@ void TabValueDialog::buildPages()
     const ParameterPageSpec spec(m_args[ArgTabs], m_args[ArgParams], m_args[ArgGroups],
                                  m_args[ArgValues]);
     delete m_ui->tW->widget(0);
-    for (const QString& title : spec.tabTitles()) {
-        auto* page = new QWidget;
-        page->setObjectName(title);
-        auto* grid = new QGridLayout(page);
-        grid->setContentsMargins(11, 11, 11, 11);
-        grid->setSpacing(6);
-        grid->setAlignment(Qt::AlignTop);
-        m_maps->storePage(title, page, grid);
-        m_ui->tW->addTab(page, title);
-    }
+    makeTabPages(spec, *m_maps, m_ui->tW, 11, 6);
     placeGroups(spec, *m_maps);
     PlacementRules rules;
     rules.buttonLayout = m_ui->layoutButtons;

@@ -156,6 +156,8 @@ private slots:
 
     void tabValue_data();
     void tabValue() { check("TabValueDialog"); }
+    void pwm_data();
+    void pwm() { check("LoopForgeEditPWMDialog"); }
 
 private:
     static void columns();
@@ -320,6 +322,51 @@ void TestParameterPages::tabValue_data()
         << ok << true << QStringList{"", "", "3", "4", "", ""}
         << QStringList{"tabs=Parameters|Parameters 1", "parameter2.grid=255,1,1,1",
                        "parameter3.grid=0,766,1,1"}
+        << QStringList();
+}
+
+void TestParameterPages::pwm_data()
+{
+    columns();
+    const QString ok;
+    const QStringList info = {"PWM1", "Pulse width modulator", "PWM A", "7"};
+
+    QTest::newRow("no arguments: fixed name, no description element")
+        << Args() << ok << true << QStringList()
+        << QStringList{"name=LoopForgeEditPWMDialog", "tabs=Parameters", "labelTitle.shown=false",
+                       "helpButton.shown=false", "editBoxSymDescription.text="}
+        << QStringList();
+    QTest::newRow("description after a label's gap")
+        << stringArgs({{}, {"::G"}, {":G:a", ":G:note:1:0::label", ":G:b:2"}, {"1", "2", "x", "PWM A"},
+                       info})
+        << ok << true << QStringList{"1", "2", "", "PWM A"}
+        << QStringList{"name=LoopForgeEditPWMDialog", "title=PWM1", "labelTitle.shown=true",
+                       "labelSymDescription.text=PWM A", "editBoxSymDescription.text=PWM A",
+                       "helpButton.shown=true"}
+        << QStringList();
+    QTest::newRow("as many values as parameters: no description")
+        << stringArgs({{}, {"::G"}, {":G:a", ":G:b:1"}, {"1", "2"}, {"T", "", "S"}}) << ok << true
+        << QStringList{"1", "2"}
+        << QStringList{"editBoxSymDescription.text=", "helpButton.shown=false"} << QStringList();
+    QTest::newRow("edited description and help")
+        << stringArgs({{}, {"::G"}, {":G:a"}, {"1", "old"}, info})
+        << QStringLiteral("{\"set\": \"editBoxSymDescription\", \"text\": \"new\"},"
+                          "{\"click\": \"helpButton\"}, {\"accept\": true}")
+        << true << QStringList{"1", "new"} << QStringList() << QStringList{"help=7"};
+    QTest::newRow("separators every 3 columns, width 5, group width unused")
+        << stringArgs({{}, {"::Wide:0:0::::1:9"}, {":Wide:a:0:0", ":Wide:b:0:1", ":Wide:c:1:2"},
+                       {"1", "2", "3"}})
+        << ok << true << QStringList{"1", "2", "3"}
+        << QStringList{"parameter1.grid=0,5,1,1", "parameter2.grid=1,9,1,1",
+                       "group0.separators=3 3 6 9", "parameter0.grid=0,1,1,1"}
+        << QStringList();
+    QTest::newRow("nested group found by name alone, in the same pass")
+        << stringArgs({{}, {"::G"},
+                       {":G:Sub:1:0::check", "Parameters:Sub:lost", "Su:b:found", ":G:after:2"},
+                       {"1", "2", "3", "4"}})
+        << ok << true << QStringList{"1", "", "3", "4"}
+        << QStringList{"parameter0.grid=1,0,1,3", "parameter1.class=absent",
+                       "parameter2.grid=0,1,1,1", "parameter3.grid=2,1,1,1"}
         << QStringList();
 }
 

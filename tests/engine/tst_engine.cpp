@@ -83,6 +83,7 @@ const QStringList implemented = {
     "EditBrelvonMosfetDriverDialog", "EditMultiLevelInductorCapacitorDialog",
     "EditParameterisedOpampDialog",
     "TabValueDialog",
+    "TabValueDialog", "LoopForgeEditPWMDialog",
 };
 
 ScriptValue strings(std::vector<std::string> s)
