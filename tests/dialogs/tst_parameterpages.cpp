@@ -158,10 +158,12 @@ private slots:
     void tabValue() { check("TabValueDialog"); }
     void pwm_data();
     void pwm() { check("LoopForgeEditPWMDialog"); }
+    void radioStack_data();
+    void radioStack() { check("RadioSelectWidgetStackDialog"); }
 
 private:
     static void columns();
-    void check(const char* function);
+    void check(const char* function, const char* okButton = "pushButtonOk");
 
     vtkit::Engine m_engine;
     QTemporaryDir m_config;
@@ -191,7 +193,7 @@ void TestParameterPages::columns()
     QTest::addColumn<QStringList>("events"); // "help=12", "messageBox=title|text"
 }
 
-void TestParameterPages::check(const char* function)
+void TestParameterPages::check(const char* function, const char* okButton)
 {
     QFETCH(Args, args);
     QFETCH(QString, steps);
@@ -206,9 +208,10 @@ void TestParameterPages::check(const char* function)
             seen << f.section(QLatin1Char('='), 0, 0) + QLatin1Char('=')
                         + fact(dialog, f.section(QLatin1Char('='), 0, 0));
     });
-    const QString all = QStringLiteral("[{\"wait\": \"probed\"}, ")
-                        + (steps.isEmpty() ? QStringLiteral("{\"accept\": true}") : steps)
-                        + QLatin1Char(']');
+    // Ok is pressed as a user presses it, so that the form's own check runs.
+    QString all = QStringLiteral("[{\"wait\": \"probed\"}, ")
+                  + (steps.isEmpty() ? QStringLiteral("{\"accept\": true}") : steps) + QLatin1Char(']');
+    all.replace(QLatin1String("{\"accept\": true}"), QStringLiteral("{\"click\": \"%1\"}").arg(okButton));
     const Answered answered = answer(m_engine, function, args, all.toUtf8());
     QVERIFY2(answered.ok, qPrintable(answered.failure));
     QCOMPARE(seen, facts);
@@ -367,6 +370,88 @@ void TestParameterPages::pwm_data()
         << ok << true << QStringList{"1", "", "3", "4"}
         << QStringList{"parameter0.grid=1,0,1,3", "parameter1.class=absent",
                        "parameter2.grid=0,1,1,1", "parameter3.grid=2,1,1,1"}
+        << QStringList();
+}
+
+void TestParameterPages::radioStack_data()
+{
+    columns();
+    const QString ok;
+    const QStringList tabs = {"A", "B\\sC", "D"};
+    const QStringList groups = {"A::G", "B\\sC::G", "D::G"};
+    const QStringList params = {"::Mode:::::::Pick a page", "A:G:x", "D:G:y", "B\\sC:G:z"};
+    const QStringList info = {"Select", "<b>Mode</b>", "3"};
+    auto args = [&](const QString& selection) {
+        return stringArgs({tabs, groups, params, {selection, "1", "2", "3"}, info});
+    };
+    const QString badBox = QStringLiteral(
+        "messageBox=Error: Incorrect parameter name|Parameter values must meet three "
+        "requirements:<ol><li>Begin with the opening curly brace \"{\",</li><li>End with the "
+        "closing curly brace \"}\",</li><li>And not contain spaces.</li></ol>The errors are:");
+    const QString noOpen = QStringLiteral(
+        "<br/><nobr>The Parameter value doesn't begin with an opening curly brace \"{\"</nobr>");
+    const QString noClose = QStringLiteral(
+        "<br/><nobr>The Parameter value doesn't end with a closing curly brace \"}\"</nobr>");
+    const QString spaces = QStringLiteral("<br/>The Parameter value contains spaces");
+    auto steps = [](const QString& s) { return s; };
+
+    QTest::newRow("unknown selection: first button, first title back")
+        << args("nothing") << ok << true << QStringList{"A", "1", "2", "3"}
+        << QStringList{"pages=A|B\\sC|D", "radioButtonSelect1.text=B C",
+                       "radioButtonSelect0.checked=true", "wStack.currentIndex=0",
+                       "groupBoxParamValue.shown=false", "radiogroupSelect.title=Mode",
+                       "radiogroupSelect.toolTip=Pick a page", "labelTitle.shown=true",
+                       "name=" + signatureName("RadioSelectWidgetStackDialog_", "Modexyz3")}
+        << QStringList();
+    QTest::newRow("selection ignores case, the raw title goes back")
+        << args("b\\SC") << ok << true << QStringList{"B\\sC", "1", "2", "3"}
+        << QStringList{"radioButtonSelect1.checked=true", "wStack.currentIndex=1"}
+        << QStringList();
+    QTest::newRow("a click moves page and selection")
+        << args("A") << steps("{\"radio\": \"radiogroupSelect\", \"id\": 2}, {\"accept\": true}")
+        << true << QStringList{"D", "1", "2", "3"} << QStringList() << QStringList();
+    QTest::newRow("expression in braces shows the value box on page 0")
+        << args("{mode}") << ok << true << QStringList{"{mode}", "1", "2", "3"}
+        << QStringList{"groupBoxParamValue.shown=true", "editboxRadioReturn.text={mode}",
+                       "wStack.currentIndex=0"}
+        << QStringList();
+    QTest::newRow("parameterized: blanks around braces pass, typed text goes out")
+        << args("{mode}")
+        << steps("{\"set\": \"editboxRadioReturn\", \"text\": \" {m} \"}, {\"accept\": true}")
+        << true << QStringList{" {m} ", "1", "2", "3"} << QStringList() << QStringList();
+    QTest::newRow("parameterized: a title passes without braces")
+        << args("{mode}")
+        << steps("{\"radio\": \"radiogroupSelect\", \"id\": 1},"
+                 "{\"set\": \"editboxRadioReturn\", \"text\": \"d\"}, {\"accept\": true}")
+        << true << QStringList{"d", "1", "2", "3"} << QStringList() << QStringList();
+    QTest::newRow("three rules broken, three lines")
+        << args("{mode}")
+        << steps("{\"set\": \"editboxRadioReturn\", \"text\": \"a b\"}, {\"accept\": true},"
+                 "{\"message\": \"OK\"}, {\"cancel\": true}")
+        << false << QStringList() << QStringList()
+        << QStringList{badBox + noOpen + noClose + spaces};
+    QTest::newRow("braces with a space inside: one line")
+        << args("{mode}")
+        << steps("{\"set\": \"editboxRadioReturn\", \"text\": \"{a b}\"}, {\"accept\": true},"
+                 "{\"message\": \"OK\"}, {\"set\": \"editboxRadioReturn\", \"text\": \"{ab}\"},"
+                 "{\"accept\": true}")
+        << true << QStringList{"{ab}", "1", "2", "3"} << QStringList() << QStringList{badBox + spaces};
+    QTest::newRow("context menu parameterizes from the current title")
+        << args("D")
+        << steps("{\"menu\": \"radiogroupSelect\", \"action\": \"Parameterize Mode\"},"
+                 "{\"radio\": \"radiogroupSelect\", \"id\": 0}, {\"accept\": true}")
+        << true << QStringList{"D", "1", "2", "3"} << QStringList() << QStringList();
+    QTest::newRow("removing the parameterization returns the selected title")
+        << args("{mode}")
+        << steps("{\"menu\": \"radiogroupSelect\", \"action\": \"Remove Parameterization\"},"
+                 "{\"radio\": \"radiogroupSelect\", \"id\": 2}, {\"accept\": true}")
+        << true << QStringList{"D", "1", "2", "3"} << QStringList() << QStringList();
+    QTest::newRow("help")
+        << args("A") << steps("{\"click\": \"helpButton\"}, {\"accept\": true}") << true
+        << QStringList{"A", "1", "2", "3"} << QStringList() << QStringList{"help=3"};
+    QTest::newRow("no arguments: one page, nothing but the selection")
+        << Args() << ok << true << QStringList{"Parameters"}
+        << QStringList{"pages=Parameters", "helpButton.shown=false", "labelTitle.shown=false"}
         << QStringList();
 }
 

@@ -84,6 +84,7 @@ const QStringList implemented = {
     "EditParameterisedOpampDialog",
     "TabValueDialog",
     "TabValueDialog", "LoopForgeEditPWMDialog",
+    "TabValueDialog", "LoopForgeEditPWMDialog", "RadioSelectWidgetStackDialog",
 };
 
 ScriptValue strings(std::vector<std::string> s)
