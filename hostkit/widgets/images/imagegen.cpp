@@ -1,6 +1,8 @@
 // Draws the library's image resources into the directory given as the only
 // argument. Shapes only, no fonts, so the pictures don't depend on the
 // machine that draws them.
+#include "blockimages.h"
+
 #include <QColor>
 #include <QGuiApplication>
 #include <QImage>
@@ -11,6 +13,8 @@
 
 #include <cstdio>
 #include <functional>
+#include <iterator>
+#include <vector>
 
 namespace {
 
@@ -65,22 +69,6 @@ void drawEdge(QPainter& p, int size, bool rising)
     const qreal base = rising ? s * 0.56 : s * 0.44;
     p.drawPolygon(QPolygonF({QPointF(mid, tip), QPointF(mid - s * 0.25, base),
                              QPointF(mid + s * 0.25, base)}));
-}
-
-// A broad arrow pointing left or right.
-void drawShift(QPainter& p, int size, bool left)
-{
-    const qreal s = size;
-    QPolygonF arrow({QPointF(s * 0.08, s * 0.5), QPointF(s * 0.48, s * 0.14), QPointF(s * 0.48, s * 0.34),
-                     QPointF(s * 0.92, s * 0.34), QPointF(s * 0.92, s * 0.66), QPointF(s * 0.48, s * 0.66),
-                     QPointF(s * 0.48, s * 0.86)});
-    if (!left) {
-        for (QPointF& point : arrow)
-            point.setX(s - point.x());
-    }
-    p.setPen(QPen(QColor(20, 70, 150), 1.2));
-    p.setBrush(QColor(70, 130, 220));
-    p.drawPolygon(arrow);
 }
 
 void drawStop(QPainter& p, int size)
@@ -246,10 +234,24 @@ int main(int argc, char** argv)
         {"qmessagebox-info_transparent_bg.png", 32, 32, drawInfo},
         {"16x16_rightarrow_transparent_bg.png", 16, 16, drawRightArrow},
         {"threshold_hysteresis.png", 160, 100, [](QPainter& p, int) { drawThresholdHysteresis(p, 160, 100); }},
+        {"16x16_uparrow_transparent_bg.png", 16, [](QPainter& p, int s) { drawArrow(p, s, true); }},
+        {"16x16_downarrow_transparent_bg.png", 16, [](QPainter& p, int s) { drawArrow(p, s, false); }},
+        {"16x16_rising_edge_no_frame.png", 16, [](QPainter& p, int s) { drawEdge(p, s, true); }},
+        {"16x16_falling_edge_no_frame.png", 16, [](QPainter& p, int s) { drawEdge(p, s, false); }},
+        {"stop.png", 32, drawStop},
+        {"options.png", 32, drawOptions},
+        {"qmessagebox-warn_transparent_bg.png", 32, drawWarning},
+        {"qmessagebox-quest_transparent_bg.png", 32, drawQuestion},
+        {"qmessagebox-info_transparent_bg.png", 32, drawInfo},
     };
+    std::vector<Picture> all(std::begin(pictures), std::end(pictures));
+    for (const BlockPicture& block : loopForgeBlockPictures())
+        all.push_back({block.file, block.size, block.draw});
     int failures = 0;
     for (const Picture& picture : pictures) {
         QImage image = canvas(picture.width, picture.height);
+    for (const Picture& picture : all) {
+        QImage image = canvas(picture.size);
         {
             QPainter painter(&image);
             setUp(painter);
