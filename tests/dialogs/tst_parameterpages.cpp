@@ -129,6 +129,16 @@ QString fact(QDialog* dialog, const QString& key)
         auto* button = qobject_cast<QAbstractButton*>(widget);
         return QVariant(button && !button->icon().isNull()).toString();
     }
+    if (property == QLatin1String("picture")) {
+        // Which block picture a label shows.
+        auto* label = qobject_cast<QLabel*>(widget);
+        const QImage shown = label ? label->pixmap(Qt::ReturnByValue).toImage() : QImage();
+        for (const char* name : {"shift_left_32", "shift_right_32", "constant_32", "dac_32"}) {
+            if (!shown.isNull() && shown == QImage(QStringLiteral(":/%1.png").arg(QLatin1String(name))).convertToFormat(shown.format()))
+                return QLatin1String(name);
+        }
+        return shown.isNull() ? QStringLiteral("none") : QStringLiteral("other");
+    }
     if (property == QLatin1String("separators")) {
         QStringList out;
         for (QFrame* line : widget->findChildren<QFrame*>(QString(), Qt::FindDirectChildrenOnly)) {
@@ -160,6 +170,8 @@ private slots:
     void pwm() { check("LoopForgeEditPWMDialog"); }
     void radioStack_data();
     void radioStack() { check("RadioSelectWidgetStackDialog"); }
+    void component_data();
+    void component() { check("LoopForgeEditComponentDialog", "okButton"); }
 
 private:
     static void columns();
@@ -453,6 +465,103 @@ void TestParameterPages::radioStack_data()
         << Args() << ok << true << QStringList{"Parameters"}
         << QStringList{"pages=Parameters", "helpButton.shown=false", "labelTitle.shown=false"}
         << QStringList();
+}
+
+void TestParameterPages::component_data()
+{
+    columns();
+    const QString ok;
+    // Descriptors 0 and 1 stand for the two fixed choices and are never placed.
+    const QStringList params = {"::Delay type", "::Output type", ":Delay:Propagation delay:1:0:s",
+                                ":Delay:Clock cycles:3:0::int", ":Delay:Clock:4:0::string",
+                                ":Delay:Edge:5:0::list:'0_TO_1'|'1_TO_0'",
+                                ":Output:Bits:2:0::int:1|32", ":Output:Format:3:0::list:SIGNED|UNSIGNED",
+                                ":Params:Gain:0:0"};
+    const QStringList values = {"'ASYNC'", "0", "10n", "1", "CLK", "'0_TO_1'", "16", "SIGNED", "2", "2"};
+    auto info = [](const char* model) {
+        return QStringList{"Adder", "Adds its two inputs", "Edit Block", model, "21"};
+    };
+    auto withValue = [&](int index, const QString& value) {
+        QStringList changed = values;
+        changed[index] = value;
+        return changed;
+    };
+    const QStringList placed = {"10n", "1", "CLK", "'0_TO_1'", "16", "SIGNED", "2"};
+
+    QTest::newRow("adder: symbol pictures, asynchronous delay, normal output")
+        << stringArgs({params, values, info("BRELVON_LF_ADDER_32x32")}) << ok << true
+        << QStringList{"'ASYNC'", "0"} + placed + QStringList{"2"}
+        << QStringList{"name=dialog_for_loop_forge_model_BRELVON_LF_ADDER_32x32", "title=Edit Block",
+                       "groupBoxSymbol.shown=false", "radioGroupSymbolMath.shown=true",
+                       "radioButtonSymbol3.shown=false", "radioButtonSymbol1.icon=true",
+                       "radioButtonSymbol2.checked=true", "labelBlurb.text=Adds its two inputs",
+                       "parameter2.enabled=true", "parameterLabel3.enabled=false",
+                       "parameter5.enabled=false", "parameter6.enabled=false",
+                       "parameter8.grid=0,1,1,1", "parameter0.class=absent", "editBoxDelayType.shown=false",
+                       "groupBoxParams.shown=true", "helpButton.shown=true"}
+        << QStringList();
+    QTest::newRow("opening synchronous enables the clock settings")
+        << stringArgs({params, withValue(0, "'sync'"), info("BRELVON_LF_SUBTRACTOR_32x32")}) << ok
+        << true << QStringList{"'SYNC'", "0"} + placed + QStringList{"2"}
+        << QStringList{"parameter2.enabled=false", "parameterLabel2.enabled=false",
+                       "parameter3.enabled=true", "parameter5.enabled=true",
+                       "radioButtonSymbol3.shown=true"}
+        << QStringList();
+    QTest::newRow("choices clicked come back as elements 0 and 1")
+        << stringArgs({params, values, info("BRELVON_LF_MULTIPLIER_32x32")})
+        << QStringLiteral("{\"radio\": \"radioGroupDelay\", \"id\": 1},"
+                          "{\"radio\": \"radioGroupOutput\", \"id\": 1}, {\"accept\": true}")
+        << true << QStringList{"'SYNC'", "1"} + placed + QStringList{"2"} << QStringList()
+        << QStringList();
+    QTest::newRow("a constant is always delay type 0")
+        << stringArgs({params, withValue(0, "'SYNC'"), info("BRELVON_LF_CONSTANT_32")}) << ok << true
+        << QStringList{"0", "0"} + placed
+        << QStringList{"pixmapImage.picture=constant_32", "radioGroupSymbolMath.shown=false",
+                       "groupBoxSymbol.shown=true"}
+        << QStringList();
+    QTest::newRow("fewer than six values: everything stays enabled")
+        << stringArgs({params, {"'SYNC'", "1", "1n"}, info("BRELVON_LF_LIMITER_32")}) << ok << true
+        << QStringList{"'SYNC'", "1", "1n", "0", "0", "'0_TO_1'", "0", "SIGNED", "0"}
+        << QStringList{"parameter2.enabled=true", "parameter3.enabled=true", "parameter6.enabled=true"}
+        << QStringList();
+    QTest::newRow("a DAC never disables the output limit")
+        << stringArgs({params, values, info("brelvon_lf_dac_32")}) << ok << true
+        << QStringList{"'ASYNC'", "0"} + placed
+        << QStringList{"parameter6.enabled=true", "pixmapImage.picture=dac_32"} << QStringList();
+
+    const QStringList shiftParams = params + QStringList{":Params:Offset:1:0", ":Params:Direction:2:0::list:Left|Right"};
+    const QStringList shiftValues = values + QStringList{"Left"};
+    QTest::newRow("shift right set to Left shows the left picture")
+        << stringArgs({shiftParams, shiftValues, info("BRELVON_LF_SHIFT_RIGHT_32")}) << ok << true
+        << QStringList{"'ASYNC'", "0"} + placed + QStringList{"2", "Left"}
+        << QStringList{"pixmapImage.picture=shift_left_32"} << QStringList();
+    QTest::newRow("picking a direction changes the picture")
+        << stringArgs({shiftParams, shiftValues, info("BRELVON_LF_SHIFT_LEFT_32")})
+        << QStringLiteral("{\"choose\": \"parameter10\", \"text\": \"Right\"},"
+                          "{\"accept\": true}")
+        << true << QStringList{"'ASYNC'", "0"} + placed + QStringList{"2", "Right"}
+        << QStringList{"pixmapImage.picture=shift_left_32"} << QStringList();
+    QTest::newRow("plain shift: left picture, no direction slot")
+        << stringArgs({shiftParams, withValue(0, "'ASYNC'") + QStringList{"Right"},
+                       info("BRELVON_LF_SHIFT_32")})
+        << ok << true << QStringList{"'ASYNC'", "0"} + placed + QStringList{"2", "Right"}
+        << QStringList{"pixmapImage.picture=shift_left_32"} << QStringList();
+    QTest::newRow("a model outside the table still names the dialog")
+        << stringArgs({params, values, info("MY_BLOCK")}) << ok << true
+        << QStringList{"'ASYNC'", "0"} + placed
+        << QStringList{"name=dialog_for_loop_forge_model_MY_BLOCK", "pixmapImage.picture=none",
+                       "groupBoxSymbol.shown=true", "radioGroupSymbolMath.shown=false"}
+        << QStringList();
+    QTest::newRow("no arguments: empty groups hidden, no delay type")
+        << Args() << ok << true << QStringList{"", "0"}
+        << QStringList{"name=LoopForgeEditComponentDialog", "groupBoxParams.shown=false",
+                       "radioGroupDelay.shown=false", "radioGroupOutput.shown=false",
+                       "radioGroupSymbolMath.shown=true", "helpButton.shown=false"}
+        << QStringList();
+    QTest::newRow("cancel and help")
+        << stringArgs({params, values, info("BRELVON_LF_GAIN_32")})
+        << QStringLiteral("{\"click\": \"helpButton\"}, {\"cancel\": true}") << false
+        << QStringList() << QStringList() << QStringList{"help=21"};
 }
 
 QTEST_MAIN(TestParameterPages)

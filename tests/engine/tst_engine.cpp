@@ -85,6 +85,8 @@ const QStringList implemented = {
     "TabValueDialog",
     "TabValueDialog", "LoopForgeEditPWMDialog",
     "TabValueDialog", "LoopForgeEditPWMDialog", "RadioSelectWidgetStackDialog",
+    "TabValueDialog", "LoopForgeEditComponentDialog", "LoopForgeEditPWMDialog",
+    "RadioSelectWidgetStackDialog",
 };
 
 ScriptValue strings(std::vector<std::string> s)
