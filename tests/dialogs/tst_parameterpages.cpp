@@ -171,11 +171,11 @@ private slots:
     void radioStack_data();
     void radioStack() { check("RadioSelectWidgetStackDialog"); }
     void component_data();
-    void component() { check("LoopForgeEditComponentDialog", "okButton"); }
+    void component() { check("LoopForgeEditComponentDialog"); }
 
 private:
     static void columns();
-    void check(const char* function, const char* okButton = "pushButtonOk");
+    void check(const char* function);
 
     vtkit::Engine m_engine;
     QTemporaryDir m_config;
@@ -202,10 +202,11 @@ void TestParameterPages::columns()
     QTest::addColumn<bool>("hasResult");
     QTest::addColumn<QStringList>("expected");
     QTest::addColumn<QStringList>("facts");  // "key=value", see fact()
-    QTest::addColumn<QStringList>("events"); // "help=12", "messageBox=title|text"
+    // "help=12", "messageBox=title|text", "inspect=OBJ enabled= hidden= text= current="
+    QTest::addColumn<QStringList>("events");
 }
 
-void TestParameterPages::check(const char* function, const char* okButton)
+void TestParameterPages::check(const char* function)
 {
     QFETCH(Args, args);
     QFETCH(QString, steps);
@@ -220,10 +221,9 @@ void TestParameterPages::check(const char* function, const char* okButton)
             seen << f.section(QLatin1Char('='), 0, 0) + QLatin1Char('=')
                         + fact(dialog, f.section(QLatin1Char('='), 0, 0));
     });
-    // Ok is pressed as a user presses it, so that the form's own check runs.
-    QString all = QStringLiteral("[{\"wait\": \"probed\"}, ")
-                  + (steps.isEmpty() ? QStringLiteral("{\"accept\": true}") : steps) + QLatin1Char(']');
-    all.replace(QLatin1String("{\"accept\": true}"), QStringLiteral("{\"click\": \"%1\"}").arg(okButton));
+    const QString all = QStringLiteral("[{\"wait\": \"probed\"}, ")
+                        + (steps.isEmpty() ? QStringLiteral("{\"accept\": true}") : steps)
+                        + QLatin1Char(']');
     const Answered answered = answer(m_engine, function, args, all.toUtf8());
     QVERIFY2(answered.ok, qPrintable(answered.failure));
     QCOMPARE(seen, facts);
@@ -232,6 +232,15 @@ void TestParameterPages::check(const char* function, const char* okButton)
     for (const QJsonObject& e : answered.events) {
         if (e.contains(QLatin1String("help")))
             gotEvents << QStringLiteral("help=") + e.value(QLatin1String("help")).toString();
+        if (e.contains(QLatin1String("inspect"))) {
+            QStringList parts{e.value(QLatin1String("inspect")).toString()};
+            for (const char* field : {"enabled", "hidden", "text", "current"}) {
+                const QJsonValue v = e.value(QLatin1String(field));
+                parts << QLatin1String(field) + QLatin1Char('=')
+                             + (v.isBool() ? QVariant(v.toBool()).toString() : v.toVariant().toString());
+            }
+            gotEvents << QStringLiteral("inspect=") + parts.join(QLatin1Char(' '));
+        }
         if (e.contains(QLatin1String("messageBox"))) {
             const QJsonObject box = e.value(QLatin1String("messageBox")).toObject();
             gotEvents << QStringLiteral("messageBox=") + box.value(QLatin1String("title")).toString()
@@ -289,6 +298,13 @@ void TestParameterPages::tabValue_data()
                           "{\"choose\": \"parameter2\", \"text\": \"fast\"},"
                           "{\"accept\": true}")
         << true << QStringList{"10k", "fast", "1", "", "7", "1"} << QStringList() << QStringList();
+    QTest::newRow("a control on another tab, reached by its tab")
+        << stringArgs({tabs, groups, params, values, info})
+        << QStringLiteral("{\"choose\": \"tW\", \"text\": \"Noise\"},"
+                          "{\"check\": \"parameter3\", \"on\": false},"
+                          "{\"inspect\": \"tW\"}, {\"accept\": true}")
+        << true << QStringList{"4.7k", "slow", "0", "", "7", "1"} << QStringList()
+        << QStringList{"inspect=tW enabled=true hidden=false text= current=1"};
     QTest::newRow("object name ignores values and headline")
         << stringArgs({tabs, groups, params, {"1"}, {"Other", "", "12"}}) << ok << true
         << QStringList{"1", "fast", "0", "", "0", "1"}
@@ -420,8 +436,11 @@ void TestParameterPages::radioStack_data()
         << QStringList{"radioButtonSelect1.checked=true", "wStack.currentIndex=1"}
         << QStringList();
     QTest::newRow("a click moves page and selection")
-        << args("A") << steps("{\"radio\": \"radiogroupSelect\", \"id\": 2}, {\"accept\": true}")
-        << true << QStringList{"D", "1", "2", "3"} << QStringList() << QStringList();
+        << args("A")
+        << steps("{\"radio\": \"radiogroupSelect\", \"id\": 2}, {\"inspect\": \"wStack\"},"
+                 "{\"accept\": true}")
+        << true << QStringList{"D", "1", "2", "3"} << QStringList()
+        << QStringList{"inspect=wStack enabled=true hidden=false text= current=2"};
     QTest::newRow("expression in braces shows the value box on page 0")
         << args("{mode}") << ok << true << QStringList{"{mode}", "1", "2", "3"}
         << QStringList{"groupBoxParamValue.shown=true", "editboxRadioReturn.text={mode}",
@@ -507,12 +526,16 @@ void TestParameterPages::component_data()
                        "parameter3.enabled=true", "parameter5.enabled=true",
                        "radioButtonSymbol3.shown=true"}
         << QStringList();
-    QTest::newRow("choices clicked come back as elements 0 and 1")
+    QTest::newRow("choices clicked switch what is enabled and come back as elements 0 and 1")
         << stringArgs({params, values, info("BRELVON_LF_MULTIPLIER_32x32")})
         << QStringLiteral("{\"radio\": \"radioGroupDelay\", \"id\": 1},"
-                          "{\"radio\": \"radioGroupOutput\", \"id\": 1}, {\"accept\": true}")
+                          "{\"radio\": \"radioGroupOutput\", \"id\": 1},"
+                          "{\"inspect\": \"parameter2\"}, {\"inspect\": \"parameter4\"},"
+                          "{\"inspect\": \"parameter7\"}, {\"accept\": true}")
         << true << QStringList{"'SYNC'", "1"} + placed + QStringList{"2"} << QStringList()
-        << QStringList();
+        << QStringList{"inspect=parameter2 enabled=false hidden=false text=10n current=",
+                       "inspect=parameter4 enabled=true hidden=false text=CLK current=",
+                       "inspect=parameter7 enabled=true hidden=false text=SIGNED current=0"};
     QTest::newRow("a constant is always delay type 0")
         << stringArgs({params, withValue(0, "'SYNC'"), info("BRELVON_LF_CONSTANT_32")}) << ok << true
         << QStringList{"0", "0"} + placed
