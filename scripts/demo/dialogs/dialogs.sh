@@ -69,3 +69,47 @@ show call EditParameterisedOpampDialog \
 show call EditParameterisedOpampDialog \
   '["1m", "100n", "10n", "100k", "1Meg", "1Meg", "1Meg", "100k", "100k", "10Meg", "100", "10m", "1", "1", "1m"]' \
   --answer $d/opamp_vantrell.json
+show call TabValueDialog '["Model", "Parasitics", "Noise"]' \
+  '["Model::Geometry:0:0", "Model::Thresholds:0:1", "Parasitics::Capacitances:0:0:0:1::1:8",
+    "Parasitics::Resistances:1:0:1:1", "Noise:check:Flicker noise:0:0:::20"]' \
+  '["Model:Geometry:W:0:0:__micro__m:real:0|1k:1:Channel width",
+    "Model:Geometry:L:1:0:__micro__m:real:0|100:1:Channel length",
+    "Model:Geometry:Fingers:2:0::integer:1|64|1", "Model:Thresholds:Level:0:0::list:Level 1|Level 2|Level 3|BSIM3",
+    "Model:Thresholds:Vto:1:0:V", "Model:Thresholds:Model name:2:0::string",
+    "Model:Thresholds:Temperature model:3:0::bool", "Parasitics:Capacitances:Gate:0:0::label",
+    "Parasitics:Capacitances:Cgs:1:0:pF", "Parasitics:Capacitances:Cgd:2:0:pF",
+    "Parasitics:Capacitances:Junction:0:1::label", "Parasitics:Capacitances:Cbd:1:1:pF",
+    "Parasitics:Capacitances:Cbs:2:1:pF", "Parasitics:Resistances:Rg:0:0:__Ohms__",
+    "Parasitics:Resistances:Rd:0:1:m__Ohms__", "Noise:Flicker noise:KF:0:0",
+    "Noise:Flicker noise:AF:1:0", "Noise:Flicker noise:Thermal noise:2:0::check",
+    "Noise:Thermal noise:Noise model:0:0::list:Classic|Improved",
+    "Noise:Flicker noise:Options:3:0::group", "Noise:Options:Tnom:0:0:__degrees__C",
+    ":*#!Buttons:Save as default:0:1::bool"]' \
+  '["10", "0.5", "4", "BSIM3", "0.7", "NMOS_3V3", "true", "1.2", "0.3", "0.5", "0.1", "2", "15",
+    "1e-25", "1", "1", "Improved", "27", "0", "", "1"]' \
+  '["NMOS Transistor M1", "<b>M1</b>: NMOS, 3.3 V", "120"]' --answer $d/tabvalue.json
+show call RadioSelectWidgetStackDialog '["Sine", "Pulse", "DC\\slevel"]' \
+  '["Sine::Sine wave:0:0", "Pulse::Pulse train:0:0", "DC\\slevel::Level:0:0"]' \
+  '["::Waveform:::::::Right-click to parameterize the waveform",
+    "Sine:Sine wave:Amplitude:0:0:V", "Sine:Sine wave:Frequency:1:0:Hz",
+    "Sine:Sine wave:Phase:2:0:__degrees__", "Pulse:Pulse train:Low:0:0:V",
+    "Pulse:Pulse train:High:1:0:V", "Pulse:Pulse train:Period:2:0:s",
+    "Pulse:Pulse train:Duty cycle:3:0:%:real:0|100", "DC\\slevel:Level:Voltage:0:0:V"]' \
+  '["Pulse", "1", "1k", "0", "0", "5", "10u", "50", "3.3"]' \
+  '["Voltage Source V1", "<b>V1</b>: choose a waveform", "130"]' --answer $d/radiostack.json
+show call LoopForgeEditComponentDialog \
+  '["::Delay type", "::Output type", ":Delay:Propagation delay:1:0:s",
+    ":Delay:Clock cycles:3:0::integer:1|1000", ":Delay:Clock:4:0::string",
+    ":Delay:Active edge:5:0::list:'"'"'0_TO_1'"'"'|'"'"'1_TO_0'"'"'", ":Output:Bits:2:0::integer:1|32",
+    ":Output:Format:3:0::list:SIGNED|UNSIGNED", ":Params:Saturate on overflow:0:0::bool"]' \
+  '["'"'"'ASYNC'"'"'", "0", "10n", "1", "CLK", "'"'"'0_TO_1'"'"'", "16", "SIGNED", "1", "0"]' \
+  '["32 Bit Adder", "Adds its two 32 bit signed inputs. The sum follows after a propagation delay, or a number of clock cycles in synchronous mode.", "Edit Adder U3", "BRELVON_LF_ADDER_32x32", "140"]' \
+  --answer $d/loopforgecomponent.json
+show call LoopForgeEditPWMDialog '["Carrier", "Outputs"]' \
+  '["Carrier::Counter:0:0", "Carrier::Timing:1:0", "Outputs::Channels:0:0::::1"]' \
+  '["Carrier:Counter:Mode:0:0::list:Up|Down|Up-down", "Carrier:Counter:Period:1:0:counts:integer:1|65535",
+    "Carrier:Timing:Clock:0:0:Hz", "Carrier:Timing:Dead time:1:0:s",
+    "Outputs:Channels:Output A:0:0::label", "Outputs:Channels:Active high:1:0::bool",
+    "Outputs:Channels:Output B:0:1::label", "Outputs:Channels:Active high:1:1::bool"]' \
+  '["Up-down", "1000", "100Meg", "50n", "1", "0", "", "", "ePWM1"]' \
+  '["ePWM U5", "<b>ePWM</b> generator", "Symbol description", "150"]' --answer $d/loopforgepwm.json
