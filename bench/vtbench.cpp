@@ -3,6 +3,7 @@
 // run, so that the numbers mean something on any machine.
 
 #include "engine.h"
+#include "ratioreporter.h"
 
 #include <benchmark/benchmark.h>
 
@@ -116,31 +117,6 @@ BENCHMARK(PerCycleValueRms)->Unit(benchmark::kMillisecond);
 BENCHMARK(PerCycleTimingFrequency)->Unit(benchmark::kMillisecond);
 BENCHMARK(PlainScan)->Unit(benchmark::kMillisecond);
 BENCHMARK(ParseEscape)->Unit(benchmark::kMillisecond);
-
-// Keeps the console output and remembers each case's real time.
-class RatioReporter : public benchmark::ConsoleReporter {
-public:
-    RatioReporter() : ConsoleReporter(OO_Tabular) {}
-
-    void ReportRuns(const std::vector<Run>& runs) override
-    {
-        ConsoleReporter::ReportRuns(runs);
-        for (const Run& r : runs)
-            if (!r.error_occurred)
-                m_times[r.benchmark_name()] = r.GetAdjustedRealTime();
-    }
-    // The median when the cases were repeated, else the one run.
-    double time(const std::string& name) const
-    {
-        auto it = m_times.find(name + "_median");
-        if (it == m_times.end())
-            it = m_times.find(name);
-        return it == m_times.end() ? 0 : it->second;
-    }
-
-private:
-    std::map<std::string, double> m_times;
-};
 
 } // namespace
 

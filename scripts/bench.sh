@@ -7,5 +7,6 @@ cd "$(dirname "$0")/.."
 vt_install_deps libbenchmark-dev
 
 cmake -S . -B build-bench -DCMAKE_BUILD_TYPE=Release -DVT_BUILD_TESTS=OFF -DVT_BUILD_BENCH=ON
-cmake --build build-bench -j"$(nproc)" --target vtbench vtdialogs
+cmake --build build-bench -j"$(nproc)" --target vtbench vtpagesbench vtdialogs
 QT_QPA_PLATFORM=offscreen build-bench/bin/vtbench --benchmark_repetitions=5 --benchmark_report_aggregates_only=true "$@"
+QT_QPA_PLATFORM=offscreen build-bench/bin/vtpagesbench --benchmark_repetitions=5 --benchmark_report_aggregates_only=true "$@"
