@@ -40,6 +40,7 @@ class QLabel;
 class QTabWidget;
 class QWidget;
 class GroupBox;
+struct UserFunctionInterface;
 
 namespace parameterpages {
 
@@ -272,6 +273,15 @@ int descriptorSignature(const QStringList& params, const QStringList& info, int 
 int helpTopicOf(const QStringList& info, int index);
 // Opens help topic number topic.
 void runHelpTopic(int topic);
+// The string arguments 0 to count - 1 of call into args.
+void readArguments(UserFunctionInterface* call, QStringList* args, int count);
+// Applies a dialog information argument: the window title from its element
+// titleElement when present, the headline hidden when its element is absent
+// or empty (headlineElement -1: no headline rule), and the help button hidden
+// when the topic in helpElement is negative or absent. Returns the topic.
+int applyDialogInfo(QWidget* dialog, QWidget* headline, QWidget* helpButton,
+                    const QStringList& info, int titleElement, int headlineElement,
+                    int helpElement);
 
 // Grid position and span as placement uses them, clamped to the grid's
 // sane range; a negative last row or column spans to the edge (-1).

@@ -2,6 +2,7 @@
 // pages.
 #include "ParameterPages.h"
 
+#include "dialogcommon.h"
 #include "hostwidgets.h"
 
 #include <QBoxLayout>
@@ -326,6 +327,7 @@ QWidget* createParameterControl(const ParameterPageSpec& spec, QWidget* parent, 
         break;
     case ParameterKind::String: {
         auto* edit = new EditBox(parent);
+        edit->setMinimumWidth(100); // a model name fits without scrolling
         edit->setText(d.value);
         edit->setOutElementIndex(d.elementIndex);
         // The widget library's EditBox writes its text as it is; the flag
@@ -390,6 +392,25 @@ GroupBox* createGroupBox(const ParameterPageSpec& spec, QWidget* parent, int pos
         box->setOutElementIndex(g.elementIndex);
     }
     return box;
+}
+
+void readArguments(UserFunctionInterface* call, QStringList* args, int count)
+{
+    for (int i = 0; i < count; ++i)
+        args[i] = dialogcommon::stringArg(call, i);
+}
+
+int applyDialogInfo(QWidget* dialog, QWidget* headline, QWidget* helpButton,
+                    const QStringList& info, int titleElement, int headlineElement, int helpElement)
+{
+    if (titleElement >= 0 && titleElement < info.size())
+        dialog->setWindowTitle(info.at(titleElement));
+    if (headline && headlineElement >= 0 && dialogcommon::elementOr(info, headlineElement).isEmpty())
+        headline->hide();
+    const int topic = helpTopicOf(info, helpElement);
+    if (topic < 0 && helpButton)
+        helpButton->hide();
+    return topic;
 }
 
 void PageMaps::storePage(const QString& tab, QWidget* page, QGridLayout* grid)

@@ -157,8 +157,7 @@ void LoopForgeEditComponentDialog::loadArguments(UserFunctionInterface* call)
         tr("The output is limited to a Signed or Unsigned number\n"
            "with a designated number of bits."));
 
-    for (int i = ArgParams; i <= ArgInfo; ++i)
-        m_args[i] = dialogcommon::stringArg(call, i);
+    parameterpages::readArguments(call, m_args, ArgInfo + 1);
     const QStringList& info = m_args[ArgInfo];
     const QStringList& values = m_args[ArgValues];
     if (hasModel()) {
@@ -167,11 +166,8 @@ void LoopForgeEditComponentDialog::loadArguments(UserFunctionInterface* call)
         // Each block type keeps a window geometry of its own.
         setObjectName(QStringLiteral("dialog_for_loop_forge_model_") + model());
     }
-    if (info.size() > InfoTitle)
-        setWindowTitle(info.at(InfoTitle));
-    m_helpTopic = parameterpages::helpTopicOf(info, InfoHelp);
-    if (m_helpTopic < 0)
-        m_ui->helpButton->hide();
+    m_helpTopic = parameterpages::applyDialogInfo(this, nullptr, m_ui->helpButton, info, InfoTitle,
+                                                  -1, InfoHelp);
     if (!values.isEmpty()) {
         const bool async = values.at(0).compare(QLatin1String("'ASYNC'"), Qt::CaseInsensitive) == 0;
         m_ui->radioButtonDelayAsync->setChecked(async);

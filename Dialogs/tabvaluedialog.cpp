@@ -76,16 +76,10 @@ void TabValueDialog::destroy()
 
 void TabValueDialog::loadArguments(UserFunctionInterface* call)
 {
-    for (int i = ArgTabs; i <= ArgInfo; ++i)
-        m_args[i] = dialogcommon::stringArg(call, i);
+    parameterpages::readArguments(call, m_args, ArgInfo + 1);
     const QStringList& info = m_args[ArgInfo];
-    if (info.size() > InfoTitle)
-        setWindowTitle(info.at(InfoTitle));
-    if (dialogcommon::elementOr(info, InfoHeadline).isEmpty())
-        m_ui->labelTitle->hide();
-    m_helpTopic = parameterpages::helpTopicOf(info, InfoHelp);
-    if (m_helpTopic < 0)
-        m_ui->helpButton->hide();
+    m_helpTopic = parameterpages::applyDialogInfo(this, m_ui->labelTitle, m_ui->helpButton, info,
+                                                  InfoTitle, InfoHeadline, InfoHelp);
     const int signature = parameterpages::descriptorSignature(m_args[ArgParams], info, InfoHelp);
     setObjectName(QStringLiteral("TabValueDialog_") + QString::number(signature));
 }

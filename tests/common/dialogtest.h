@@ -8,13 +8,16 @@
 #include "engine.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QList>
 #include <QStringList>
+#include <QTimer>
 #include <QWidget>
 #include <QtTest>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -109,6 +112,32 @@ inline bool loadModule(vtkit::Engine& engine)
     engine.setDialogRunner(&vtkit::runBoundDialog);
     return true;
 }
+
+// Looks at the dialog a call opens before the driver answers it. The
+// answer script starts with {"wait": "probed"}: the probe sets that title
+// once it is done, so its look and the driver's steps never race, and a
+// probe that never looked fails the wait.
+class Probe {
+public:
+    explicit Probe(std::function<void(QDialog*)> look)
+        : m_look(std::move(look))
+    {
+        m_timer.setInterval(5);
+        QObject::connect(&m_timer, &QTimer::timeout, [this] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (!dialog || !dialog->isVisible())
+                return;
+            m_timer.stop();
+            m_look(dialog);
+            dialog->setWindowTitle(QStringLiteral("probed"));
+        });
+        m_timer.start();
+    }
+
+private:
+    std::function<void(QDialog*)> m_look;
+    QTimer m_timer;
+};
 
 // For each test's cleanup(): no dialog may outlive its test.
 inline bool noTopLevelsLeft()

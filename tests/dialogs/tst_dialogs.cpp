@@ -37,32 +37,6 @@ QStringList emptyRows(int rows, int columns)
     return QVector<QString>(rows, QString(columns, QLatin1Char(';'))).toList();
 }
 
-// Looks at the dialog a call opens before the driver answers it. The
-// answer script starts with {"wait": "probed"}: the probe sets that title
-// once it is done, so its look and the driver's steps never race, and a
-// probe that never looked fails the wait.
-class Probe {
-public:
-    explicit Probe(std::function<void(QDialog*)> look)
-        : m_look(std::move(look))
-    {
-        m_timer.setInterval(5);
-        QObject::connect(&m_timer, &QTimer::timeout, [this] {
-            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            if (!dialog || !dialog->isVisible())
-                return;
-            m_timer.stop();
-            m_look(dialog);
-            dialog->setWindowTitle(QStringLiteral("probed"));
-        });
-        m_timer.start();
-    }
-
-private:
-    std::function<void(QDialog*)> m_look;
-    QTimer m_timer;
-};
-
 // One fact about a shown dialog. "help" is its context help button,
 // "property" one of its properties and "child.property" one of a child's;
 // for an item view, "items" lists the first column, "columns" and "rows"

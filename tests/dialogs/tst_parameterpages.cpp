@@ -26,31 +26,6 @@ Q_DECLARE_METATYPE(Args)
 
 namespace {
 
-// Looks at the dialog a call opens before the driver answers it. The
-// answer script starts with {"wait": "probed"}: the probe sets that title
-// once it has looked, so its look and the driver's steps never race.
-class Probe {
-public:
-    explicit Probe(std::function<void(QDialog*)> look)
-        : m_look(std::move(look))
-    {
-        m_timer.setInterval(5);
-        QObject::connect(&m_timer, &QTimer::timeout, [this] {
-            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            if (!dialog || !dialog->isVisible())
-                return;
-            m_timer.stop();
-            m_look(dialog);
-            dialog->setWindowTitle(QStringLiteral("probed"));
-        });
-        m_timer.start();
-    }
-
-private:
-    std::function<void(QDialog*)> m_look;
-    QTimer m_timer;
-};
-
 QString itemName(QLayoutItem* item)
 {
     if (item->widget())
