@@ -132,12 +132,19 @@ void TestWidgets::resourcesRegistered_data()
     QTest::newRow("warn") << ":/qmessagebox-warn_transparent_bg.png";
     QTest::newRow("quest") << ":/qmessagebox-quest_transparent_bg.png";
     QTest::newRow("info") << ":/qmessagebox-info_transparent_bg.png";
+    QTest::newRow("adder") << ":/adder_32_0.png";
+    QTest::newRow("divider symbol d") << ":/divider_32_3.png";
+    QTest::newRow("multiplexer") << ":/mux_32_x_4.png";
+    QTest::newRow("clock breakout") << ":/global_clock_breakout.png";
+    QTest::newRow("pwm") << ":/epwm_beta1.png";
 }
 
 void TestWidgets::resourcesRegistered()
 {
     QFETCH(QString, name);
-    const int size = name.contains("16x16") ? 16 : 32;
+    // LoopForge block pictures (the shifts among them) are 64 pixels.
+    const bool block = name.contains("_32") || name.contains("clock") || name.contains("epwm");
+    const int size = name.contains("16x16") ? 16 : block ? 64 : 32;
     const QPixmap pixmap(name);
     QCOMPARE(pixmap.size(), QSize(size, size));
     QVERIFY(pixmap.hasAlpha());
