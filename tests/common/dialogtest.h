@@ -117,9 +117,9 @@ inline bool loadModule(vtkit::Engine& engine)
 // answer script starts with {"wait": "probed"}: the probe sets that title
 // once it is done, so its look and the driver's steps never race, and a
 // probe that never looked fails the wait.
-class Probe {
+class ShownDialogProbe {
 public:
-    explicit Probe(std::function<void(QDialog*)> look)
+    explicit ShownDialogProbe(std::function<void(QDialog*)> look)
         : m_look(std::move(look))
     {
         m_timer.setInterval(5);

@@ -168,9 +168,9 @@ void TestDialogs::check(const char* function)
     QFETCH(QStringList, facts);
 
     QStringList seen;
-    std::unique_ptr<Probe> probe;
+    std::unique_ptr<ShownDialogProbe> probe;
     if (!facts.isEmpty()) {
-        probe = std::make_unique<Probe>([&](QDialog* dialog) {
+        probe = std::make_unique<ShownDialogProbe>([&](QDialog* dialog) {
             for (const QString& f : facts) {
                 const QString key = f.section(QLatin1Char('='), 0, 0);
                 seen << key + QLatin1Char('=') + fact(dialog, key);
@@ -233,7 +233,7 @@ void TestDialogs::listSubset_data()
 // A double click moves the clicked item across, either way.
 void TestDialogs::listSubsetDoubleClick()
 {
-    Probe probe([](QDialog* dialog) {
+    ShownDialogProbe probe([](QDialog* dialog) {
         for (const char* name : {"listBoxAvailable", "listBoxSelected"}) {
             auto* list = dialog->findChild<QListWidget*>(QLatin1String(name));
             QVERIFY(list && list->count() > 0);

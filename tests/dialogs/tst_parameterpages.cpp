@@ -191,7 +191,7 @@ void TestParameterPages::check(const char* function)
     QFETCH(QStringList, events);
 
     QStringList seen;
-    Probe probe([&](QDialog* dialog) {
+    ShownDialogProbe probe([&](QDialog* dialog) {
         for (const QString& f : facts)
             seen << f.section(QLatin1Char('='), 0, 0) + QLatin1Char('=')
                         + fact(dialog, f.section(QLatin1Char('='), 0, 0));
