@@ -4,6 +4,7 @@
 
 #include "hostsupport.h"
 
+#include <algorithm>
 #include <climits>
 #include <cstdio>
 
@@ -319,6 +320,18 @@ void runHelpTopic(int topic)
     std::snprintf(buffer, sizeof buffer, "%d", topic);
     int local = 0;
     sp_RunHelp(RunHelpContext, buffer, &local, nullptr);
+}
+
+int gridIndex(int value)
+{
+    return std::clamp(value, 0, kMaxGridIndex);
+}
+
+int gridSpan(int first, int last)
+{
+    if (last < 0)
+        return -1;
+    return std::max(1, gridIndex(last) - gridIndex(first) + 1);
 }
 
 bool groupHasSeparatedColumns(const ParameterPageSpec& spec, const QString& title)

@@ -276,18 +276,6 @@ void placeParameter(const ParameterPageSpec& spec, const ParameterDescriptor& d,
 
 } // namespace
 
-int gridIndex(int value)
-{
-    return std::clamp(value, 0, kMaxGridIndex);
-}
-
-int gridSpan(int first, int last)
-{
-    if (last < 0)
-        return -1;
-    return std::max(1, gridIndex(last) - gridIndex(first) + 1);
-}
-
 QLabel* createParameterLabel(const ParameterPageSpec& spec, QWidget* parent, int position)
 {
     if (!validPosition(spec, position))
