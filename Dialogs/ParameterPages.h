@@ -263,6 +263,9 @@ void placeParameters(const ParameterPageSpec& spec, PageMaps& maps, const Placem
 
 // ------------------------------------------------ helpers of the family
 
+// The arguments of the tabbed dialogs of the family, in call order.
+enum TabbedArgument { ArgTabs, ArgGroups, ArgParams, ArgValues, ArgInfo, TabbedArgumentCount };
+
 // The number behind the object name of a dialog whose shape its arguments
 // decide, so that stored window geometry follows the set of parameters:
 // the names (field 2 of each parameter by a plain split at ":") and the

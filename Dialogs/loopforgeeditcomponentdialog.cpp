@@ -250,10 +250,9 @@ void LoopForgeEditComponentDialog::showEvent(QShowEvent* event)
 
 void LoopForgeEditComponentDialog::populateWidgets()
 {
-    using namespace parameterpages;
     if (m_args[ArgParams].isEmpty() || m_args[ArgValues].isEmpty())
         return;
-    const ParameterPageSpec spec(m_args[ArgParams], m_args[ArgValues]);
+    const parameterpages::ParameterPageSpec spec(m_args[ArgParams], m_args[ArgValues]);
     const std::pair<const char*, QWidget*> fixed[] = {{"Params", m_ui->groupBoxParams},
                                                       {"Delay", m_ui->radioGroupDelay},
                                                       {"Output", m_ui->radioGroupOutput}};
@@ -263,18 +262,18 @@ void LoopForgeEditComponentDialog::populateWidgets()
             grid->setAlignment(Qt::AlignTop);
         m_groups.storeGroup(QLatin1String(name), group, grid);
     }
-    PlacementRules rules;
+    parameterpages::PlacementRules rules;
     rules.firstDescriptor = 2;
     rules.nestedGroupsFirst = false;
     rules.groupKeyWithTab = false;
     rules.nestedKeyWithTab = false;
     rules.wideSeparatedColumns = false;
     rules.separatorPitch = 0;
-    rules.placed = [this](const ParameterDescriptor& d, const PlacedParameter& w) {
+    rules.placed = [this](const parameterpages::ParameterDescriptor& d, const parameterpages::PlacedParameter& w) {
         m_labels[d.position] = w.label;
         m_controls[d.position] = w.control;
     };
-    placeParameters(spec, m_groups, rules);
+    parameterpages::placeParameters(spec, m_groups, rules);
 }
 
 QWidget* LoopForgeEditComponentDialog::control(int position) const

@@ -17,7 +17,12 @@
 
 namespace {
 
-enum Argument { ArgTabs, ArgGroups, ArgParams, ArgValues, ArgInfo };
+using parameterpages::ArgTabs;
+using parameterpages::ArgGroups;
+using parameterpages::ArgParams;
+using parameterpages::ArgValues;
+using parameterpages::ArgInfo;
+
 enum InfoElement { InfoTitle, InfoHeadline, InfoSymbol, InfoHelp };
 
 } // namespace
@@ -47,7 +52,7 @@ private:
     parameterpages::CaseInsensitiveMap<QWidget*> m_labels;
     parameterpages::CaseInsensitiveMap<QWidget*> m_units;
     parameterpages::CaseInsensitiveMap<QWidget*> m_controls;
-    QStringList m_args[5];
+    QStringList m_args[parameterpages::TabbedArgumentCount];
     int m_helpTopic = -1;
     bool m_built = false;
 };
@@ -65,7 +70,7 @@ LoopForgeEditPWMDialog::~LoopForgeEditPWMDialog() = default;
 
 void LoopForgeEditPWMDialog::loadArguments(UserFunctionInterface* call)
 {
-    parameterpages::readArguments(call, m_args, ArgInfo + 1);
+    parameterpages::readArguments(call, m_args, parameterpages::TabbedArgumentCount);
     const QStringList& info = m_args[ArgInfo];
     m_helpTopic = parameterpages::applyDialogInfo(this, m_ui->labelTitle, m_ui->helpButton, info,
                                                   InfoTitle, InfoHeadline, InfoHelp);

@@ -22,7 +22,12 @@
 
 namespace {
 
-enum Argument { ArgTabs, ArgGroups, ArgParams, ArgValues, ArgInfo };
+using parameterpages::ArgTabs;
+using parameterpages::ArgGroups;
+using parameterpages::ArgParams;
+using parameterpages::ArgValues;
+using parameterpages::ArgInfo;
+
 enum InfoElement { InfoTitle, InfoHeadline, InfoHelp };
 
 } // namespace
@@ -54,7 +59,7 @@ private:
 
     std::unique_ptr<Ui::RadioSelectWidgetStackDialog> m_ui;
     std::unique_ptr<parameterpages::PageMaps> m_maps;
-    QStringList m_args[5];
+    QStringList m_args[parameterpages::TabbedArgumentCount];
     QStringList m_tabTitles; // raw, in button order
     int m_helpTopic = -1;
     bool m_parameterized = false;
@@ -88,7 +93,7 @@ void RadioSelectWidgetStackDialog::destroy()
 
 void RadioSelectWidgetStackDialog::loadArguments(UserFunctionInterface* call)
 {
-    parameterpages::readArguments(call, m_args, ArgInfo + 1);
+    parameterpages::readArguments(call, m_args, parameterpages::TabbedArgumentCount);
     const QStringList& info = m_args[ArgInfo];
     m_helpTopic = parameterpages::applyDialogInfo(this, m_ui->labelTitle, m_ui->helpButton, info,
                                                   InfoTitle, InfoHeadline, InfoHelp);
