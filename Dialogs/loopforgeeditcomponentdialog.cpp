@@ -269,7 +269,8 @@ void LoopForgeEditComponentDialog::populateWidgets()
     rules.nestedKeyWithTab = false;
     rules.wideSeparatedColumns = false;
     rules.separatorPitch = 0;
-    rules.placed = [this](const parameterpages::ParameterDescriptor& d, const parameterpages::PlacedParameter& w) {
+    rules.placed = [this](const parameterpages::ParameterDescriptor& d,
+                          const parameterpages::PlacedParameter& w) {
         m_labels[d.position] = w.label;
         m_controls[d.position] = w.control;
     };
