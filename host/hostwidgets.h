@@ -15,9 +15,8 @@
 // ":/16x16_falling_edge_no_frame.png", ":/shift_left_32.png",
 // ":/shift_right_32.png", ":/stop.png", ":/options.png",
 // ":/qmessagebox-warn_transparent_bg.png", ":/qmessagebox-quest_transparent_bg.png",
-// ":/qmessagebox-info_transparent_bg.png", ":/16x16_rightarrow_transparent_bg.png"
-// and ":/threshold_hysteresis.png" as it loads.
-// ":/qmessagebox-info_transparent_bg.png" and the LoopForge block pictures
+// ":/qmessagebox-info_transparent_bg.png", ":/16x16_rightarrow_transparent_bg.png",
+// ":/threshold_hysteresis.png" and the LoopForge block pictures
 // (":/adder_32_0.png" ... ":/epwm_beta1.png", see images/blockimages.cpp) as
 // it loads.
 #pragma once

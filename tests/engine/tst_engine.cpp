@@ -82,9 +82,6 @@ const QStringList implemented = {
     "MeasureDialog",    "ManageMeasureDialog", "EditStylesDialog", "CreateNewTitleBlockDialog",
     "EditBrelvonMosfetDriverDialog", "EditMultiLevelInductorCapacitorDialog",
     "EditParameterisedOpampDialog",
-    "TabValueDialog",
-    "TabValueDialog", "LoopForgeEditPWMDialog",
-    "TabValueDialog", "LoopForgeEditPWMDialog", "RadioSelectWidgetStackDialog",
     "TabValueDialog", "LoopForgeEditComponentDialog", "LoopForgeEditPWMDialog",
     "RadioSelectWidgetStackDialog",
 };

@@ -225,8 +225,6 @@ int main(int argc, char** argv)
         {"16x16_downarrow_transparent_bg.png", 16, 16, [](QPainter& p, int s) { drawArrow(p, s, false); }},
         {"16x16_rising_edge_no_frame.png", 16, 16, [](QPainter& p, int s) { drawEdge(p, s, true); }},
         {"16x16_falling_edge_no_frame.png", 16, 16, [](QPainter& p, int s) { drawEdge(p, s, false); }},
-        {"shift_left_32.png", 32, 32, [](QPainter& p, int s) { drawShift(p, s, true); }},
-        {"shift_right_32.png", 32, 32, [](QPainter& p, int s) { drawShift(p, s, false); }},
         {"stop.png", 32, 32, drawStop},
         {"options.png", 32, 32, drawOptions},
         {"qmessagebox-warn_transparent_bg.png", 32, 32, drawWarning},
@@ -234,24 +232,13 @@ int main(int argc, char** argv)
         {"qmessagebox-info_transparent_bg.png", 32, 32, drawInfo},
         {"16x16_rightarrow_transparent_bg.png", 16, 16, drawRightArrow},
         {"threshold_hysteresis.png", 160, 100, [](QPainter& p, int) { drawThresholdHysteresis(p, 160, 100); }},
-        {"16x16_uparrow_transparent_bg.png", 16, [](QPainter& p, int s) { drawArrow(p, s, true); }},
-        {"16x16_downarrow_transparent_bg.png", 16, [](QPainter& p, int s) { drawArrow(p, s, false); }},
-        {"16x16_rising_edge_no_frame.png", 16, [](QPainter& p, int s) { drawEdge(p, s, true); }},
-        {"16x16_falling_edge_no_frame.png", 16, [](QPainter& p, int s) { drawEdge(p, s, false); }},
-        {"stop.png", 32, drawStop},
-        {"options.png", 32, drawOptions},
-        {"qmessagebox-warn_transparent_bg.png", 32, drawWarning},
-        {"qmessagebox-quest_transparent_bg.png", 32, drawQuestion},
-        {"qmessagebox-info_transparent_bg.png", 32, drawInfo},
     };
+    int failures = 0;
     std::vector<Picture> all(std::begin(pictures), std::end(pictures));
     for (const BlockPicture& block : loopForgeBlockPictures())
-        all.push_back({block.file, block.size, block.draw});
-    int failures = 0;
-    for (const Picture& picture : pictures) {
-        QImage image = canvas(picture.width, picture.height);
+        all.push_back({block.file, block.size, block.size, block.draw});
     for (const Picture& picture : all) {
-        QImage image = canvas(picture.size);
+        QImage image = canvas(picture.width, picture.height);
         {
             QPainter painter(&image);
             setUp(painter);
