@@ -58,6 +58,29 @@ namespace {
 constexpr int kTickMs = 20;
 constexpr qint64 kWaitMs = 5000;
 
+// A wait of 5 s that also needs half its ticks to have come: on a loaded
+// machine the process may sleep for seconds between two ticks, and a wait
+// measured by the clock alone would give up on a dialog that never had
+// the time to answer.
+class Patience {
+public:
+    void restart()
+    {
+        m_clock.start();
+        m_ticks = 0;
+    }
+    // Counts one more tick spent waiting; true once the wait is over.
+    bool exhausted()
+    {
+        ++m_ticks;
+        return m_clock.isValid() && m_clock.elapsed() > kWaitMs && m_ticks > kWaitMs / kTickMs / 2;
+    }
+
+private:
+    QElapsedTimer m_clock;
+    int m_ticks = 0;
+};
+
 // ------------------------------------------------------------ script rules
 
 // Value types: 'n' non-empty string, 's' any string, 'b' bool, 'i' integer
@@ -741,7 +764,26 @@ namespace {
 // choice is taken just before that, once the window's showEvent is over.
 class WindowWatch : public QObject {
 public:
+    // Dialogs and plain windows; not menus, combo box lists or tool tips.
+    static bool isDialogWindow(const QWidget* w)
+    {
+        const Qt::WindowType type = w->windowType();
+        return w->isWindow() && (qobject_cast<const QDialog*>(w) || type == Qt::Dialog || type == Qt::Window);
+    }
+
+    // The window a step is meant for: of those the call opened and that are
+    // still shown, the last to show. Modal or not, as a dialog may turn
+    // non-modal in its showEvent while its exec still runs.
+    QWidget* topmost() const
+    {
+        for (int i = static_cast<int>(shown.size()) - 1; i >= 0; --i)
+            if (QWidget* w = shown[i]; w && w->isVisible())
+                return w;
+        return nullptr;
+    }
+
     QList<QPointer<QWidget>> shown;             // in the order they showed
+    int opened = 0;                             // shows seen, ever
     QList<QPointer<QPushButton>> formDefaults; // of every window shown
     QList<QPointer<QWidget>> snapped;          // windows whose defaults are taken
 
@@ -751,12 +793,13 @@ public:
         if ((type != QEvent::Show && type != QEvent::ShowToParent) || !object->isWidgetType())
             return false;
         auto* w = static_cast<QWidget*>(object);
-        if (!w->isWindow())
+        if (!isDialogWindow(w))
             return false;
         if (type == QEvent::Show) {
             shown.removeAll(w);
             shown.removeAll(nullptr);
             shown << w;
+            ++opened;
             return false;
         }
         if (snapped.contains(w))
@@ -783,15 +826,19 @@ struct DialogDriver::Private {
     bool closing = false;
     QObject* context = nullptr; // owns the tick timers of one run
     WindowWatch* watch = nullptr; // a child of context
-    QElapsedTimer stepClock;    // since the next step became next
-    QElapsedTimer idleClock;    // since the last step, or since a dialog came
-    QPointer<QWidget> seen;     // the modal window of the last tick
+    Patience stepWait;          // since the next step became next
+    Patience idleWait;          // since the last step, or since a dialog came
+    Patience absentWait;        // since no dialog was open
+    bool absent = false;
+    QPointer<QWidget> seen;     // the dialog of the last tick
+
+    QWidget* target() const { return watch ? watch->topmost() : nullptr; }
 
     // A context menu asked for and not yet answered.
     bool menuPending = false;
     QString menuAction;
     QString menuStep;
-    QElapsedTimer menuClock;
+    Patience menuWait;
 
     void emitLine(const QJsonObject& object)
     {
@@ -831,7 +878,9 @@ struct DialogDriver::Private {
                 popup->close();
                 continue;
             }
-            QPointer<QWidget> w = activeModal();
+            QPointer<QWidget> w = target();
+            if (!w)
+                w = activeModal();
             if (!w)
                 break;
             if (auto* box = qobject_cast<QMessageBox*>(w.data()))
@@ -935,24 +984,37 @@ void DialogDriver::Private::tick()
         answerMenu();
         return;
     }
-    QWidget* dialog = activeModal();
+    const QJsonArray& steps = script.steps();
+    QWidget* dialog = target();
     if (!dialog) {
+        // The call runs an event loop with nothing shown to answer: a dialog
+        // on its way, or one that will never come.
         seen = nullptr;
+        if (!absent) {
+            absent = true;
+            absentWait.restart();
+        } else if (absentWait.exhausted()) {
+            if (next < steps.size())
+                fail(QStringLiteral("step %1 %2: waited 5 s for a dialog; none is open")
+                         .arg(next + 1).arg(stepText(steps[next].toObject())));
+            else
+                fail(QStringLiteral("no dialog open for 5 s after the last step, and the call has not returned"));
+        }
         return;
     }
+    absent = false;
     if (dialog != seen) {
         // One tick for what a dialog posts to itself as it shows.
         seen = dialog;
-        idleClock.restart();
+        idleWait.restart();
         return;
     }
-    const QJsonArray& steps = script.steps();
     if (steps.isEmpty() && failOnDialog) {
         fail(QStringLiteral("a dialog opened and no answer script was given (use --answer)"));
         return;
     }
     if (next >= steps.size()) {
-        if (idleClock.elapsed() > kWaitMs)
+        if (idleWait.exhausted())
             fail(QStringLiteral("dialog %1 still open 5 s after the last step").arg(quoted(windowName(dialog))));
         return;
     }
@@ -960,7 +1022,7 @@ void DialogDriver::Private::tick()
     const QString label = QStringLiteral("step %1 %2: ").arg(next + 1).arg(stepText(step));
     Outcome o = perform(step, dialog);
     if (o.kind == Outcome::NotYet) {
-        if (stepClock.elapsed() > kWaitMs)
+        if (stepWait.exhausted())
             fail(label + o.why);
         return;
     }
@@ -969,8 +1031,8 @@ void DialogDriver::Private::tick()
         return;
     }
     ++next;
-    stepClock.restart();
-    idleClock.restart();
+    stepWait.restart();
+    idleWait.restart();
     if (o.action)
         o.action();
 }
@@ -1411,7 +1473,7 @@ Outcome DialogDriver::Private::stepMenu(QWidget* w, const QString& action)
         menuPending = true;
         menuAction = action;
         menuStep = label;
-        menuClock.restart();
+        menuWait.restart();
         // May not return until the menu closes: the menu is answered from
         // the ticks of its own event loop.
         QContextMenuEvent event(QContextMenuEvent::Mouse, at, p->mapToGlobal(at));
@@ -1423,7 +1485,7 @@ void DialogDriver::Private::answerMenu()
 {
     auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     if (!menu) {
-        if (menuClock.elapsed() > kWaitMs) {
+        if (menuWait.exhausted()) {
             menuPending = false;
             fail(menuStep + QStringLiteral("no context menu opened"));
         }
@@ -1550,8 +1612,9 @@ void DialogDriver::run(const std::function<void()>& body)
     p->closing = false;
     p->menuPending = false;
     p->seen = nullptr;
-    p->stepClock.start();
-    p->idleClock.start();
+    p->absent = false;
+    p->stepWait.restart();
+    p->idleWait.restart();
     setHelpHandler([p](const QString& topic) {
         p->emitLine(QJsonObject{{QStringLiteral("help"), topic}});
     });
@@ -1573,7 +1636,7 @@ void DialogDriver::run(const std::function<void()>& body)
     const QJsonArray& steps = p->script.steps();
     if (p->failure.isEmpty() && p->menuPending)
         p->failure = p->menuStep + QStringLiteral("no context menu opened");
-    else if (p->failure.isEmpty() && p->next < steps.size())
+    else if (p->failure.isEmpty() && p->next < steps.size() && p->watch->opened > 0)
         p->failure = QStringLiteral("the call ended before step %1 %2")
                          .arg(p->next + 1)
                          .arg(stepText(steps[p->next].toObject()));
@@ -1584,7 +1647,12 @@ CallResult DialogDriver::call(Engine& engine, const std::string& name,
 {
     CallResult result;
     run([&] { result = engine.call(name, args); });
-    if (failed()) {
+    // A call refused for its arguments opened nothing; its own message
+    // tells the script what is wrong.
+    const bool refused = result.status == CallResult::Status::UnknownFunction
+                         || result.status == CallResult::Status::BadArgCount
+                         || result.status == CallResult::Status::BadArgKind;
+    if (failed() && !refused) {
         result.status = CallResult::Status::Failed;
         result.error = failure().toStdString();
         result.hasResult = false;

@@ -46,9 +46,11 @@ private:
 };
 
 // Answers the dialogs opened during one engine call. Create it before the
-// call, on the GUI thread; it watches for modal windows with a timer and
-// never lets a call hang: a step it can't carry out, or a dialog still open
-// 5 s after the last step, closes the dialogs and marks the run failed.
+// call, on the GUI thread. Each step goes to the topmost dialog the call
+// opened, modal or not. It never lets a call hang: a step it can't carry
+// out, no dialog to answer for 5 s, or a dialog still open 5 s after the
+// last step closes the dialogs and marks the run failed. Steps left over
+// when the call returns are a failure only if the call opened a dialog.
 class VT_ENGINE_API DialogDriver {
 public:
     // Every message box and help request is reported as one JSON line.

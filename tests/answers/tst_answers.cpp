@@ -133,8 +133,11 @@ QPushButton* button(const QString& text, QWidget* parent, QStringList* log, std:
 // to log.
 void buildDrivenForm(const QString& form, QDialog* d, QStringList* log)
 {
-    if (form == QLatin1String("edit")) {
+    if (form == QLatin1String("edit") || form == QLatin1String("nonmodal")) {
         auto* edit = bound(new EditBox(d, "edit"), -1, -1, 0, "start");
+        QObject::connect(edit, &QLineEdit::textChanged, d, [log] {
+            *log << (QApplication::activeModalWidget() ? "modal" : "not modal");
+        });
         QObject::connect(edit, &QLineEdit::textChanged, d, [log](const QString& t) { *log << "textChanged:" + t; });
         QObject::connect(edit, &QLineEdit::editingFinished, d, [log] { *log << "editingFinished"; });
     } else if (form == QLatin1String("buttons")) {
@@ -303,6 +306,18 @@ void buildDrivenForm(const QString& form, QDialog* d, QStringList* log)
         layout->addWidget(w);
 }
 
+// Modal while exec starts, non-modal from its first showEvent on, as the
+// probe selection of the efficiency calculator is: no modal window exists
+// while it runs.
+class TurnsNonModal : public QDialog {
+protected:
+    void showEvent(QShowEvent* event) override
+    {
+        setModal(false);
+        QDialog::showEvent(event);
+    }
+};
+
 struct Run {
     bool accepted = false;
     QStringList result, log;
@@ -329,6 +344,8 @@ private slots:
     void driver();
     void inspect_data();
     void inspect();
+    void noDialog_data();
+    void noDialog();
     void screenshot();
     void engineCall();
 
@@ -512,7 +529,7 @@ Run TestAnswers::drive(const QByteArray& script, const QString& form)
     QElapsedTimer clock;
     clock.start();
     driver.run([&] {
-        auto* dialog = new QDialog;
+        QDialog* dialog = form == QLatin1String("nonmodal") ? new TurnsNonModal : new QDialog;
         dialog->setObjectName(QStringLiteral("TestDialog"));
         dialog->setWindowTitle(QStringLiteral("Answers"));
         buildDrivenForm(form, dialog, &run.log);
@@ -633,6 +650,10 @@ void TestAnswers::driver_data()
 
     fails("inspect of an unknown widget fails", "edit", R"([{"inspect": "Foo"}])",
           R"(step 1 {"inspect": "Foo"}: no widget "Foo" in dialog "TestDialog")");
+    ok("a dialog that turns non-modal as it shows is answered", "nonmodal",
+       R"([{"set": "edit", "text": "x"}, {"accept": true}])", true, {"x"}, {"not modal"});
+    fails("a failed step closes a non-modal dialog too", "nonmodal", R"([{"click": "nothing"}])",
+          R"(no widget "nothing")");
     fails("unknown widget fails at once", "edit", R"([{"click": "Foo"}])",
           R"(step 1 {"click": "Foo"}: no widget "Foo" in dialog "TestDialog")");
     ok("a step too many", "edit", R"([{"accept": true}, {"click": "okButton"}])", true, {"start"}, {},
@@ -721,6 +742,51 @@ void TestAnswers::inspect()
     QCOMPARE(line.size(), 12);
     for (auto it = fields.begin(); it != fields.end(); ++it)
         QVERIFY2(line.value(it.key()) == it.value(), qPrintable(it.key() + ": " + run.lines[0]));
+}
+
+// A call that keeps running with nothing shown must not wait for ever.
+void TestAnswers::noDialog_data()
+{
+    QTest::addColumn<bool>("dialogFirst");
+    QTest::addColumn<QByteArray>("script");
+    QTest::addColumn<QString>("failure");
+    QTest::newRow("no dialog comes") << false << QByteArray(R"([{"click": "x"}])")
+                                     << R"(step 1 {"click": "x"}: waited 5 s for a dialog; none is open)";
+    QTest::newRow("no dialog after the last step")
+        << true << QByteArray(R"([{"accept": true}])")
+        << "no dialog open for 5 s after the last step, and the call has not returned";
+}
+
+void TestAnswers::noDialog()
+{
+    QFETCH(bool, dialogFirst);
+    QFETCH(QByteArray, script);
+    QFETCH(QString, failure);
+
+    AnswerScript answers;
+    QVERIFY(AnswerScript::fromJson(script, &answers, nullptr));
+    DialogDriver driver(answers, [](const QByteArray&) {});
+    QElapsedTimer clock;
+    driver.run([&] {
+        if (dialogFirst) {
+            QDialog dialog;
+            QStringList log;
+            buildDrivenForm("edit", &dialog, &log);
+            dialog.exec();
+        }
+        clock.start();
+        // An event loop that only a failed driver ends, or the watchdog.
+        QEventLoop loop;
+        QTimer poll;
+        connect(&poll, &QTimer::timeout, &loop, [&] {
+            if (driver.failed() || m_watchdogFired)
+                loop.quit();
+        });
+        poll.start(10);
+        loop.exec();
+    });
+    QVERIFY2(driver.failure() == failure, qPrintable(driver.failure()));
+    QVERIFY2(clock.elapsed() >= 5000 && clock.elapsed() < 8000, qPrintable(QString::number(clock.elapsed())));
 }
 
 void TestAnswers::screenshot()

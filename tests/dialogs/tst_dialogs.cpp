@@ -8,14 +8,15 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
+#include <QJsonArray>
 #include <QListWidget>
+#include <QMap>
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QtTest>
 
 #include <functional>
 #include <limits>
-#include <memory>
 
 using namespace dialogtest;
 Q_DECLARE_METATYPE(Args)
@@ -37,7 +38,46 @@ QStringList emptyRows(int rows, int columns)
     return QVector<QString>(rows, QString(columns, QLatin1Char(';'))).toList();
 }
 
-// One fact about a shown dialog. "help" is its context help button,
+// The dialog the driver is answering: the last top-level dialog shown.
+QDialog* shownDialog()
+{
+    QDialog* found = nullptr;
+    const QWidgetList tops = QApplication::topLevelWidgets();
+    for (QWidget* w : tops)
+        if (auto* d = qobject_cast<QDialog*>(w); d && d->isVisible())
+            found = d;
+    return found;
+}
+
+// A fact that an inspect line tells: "windowTitle" and "objectName" of the
+// dialog, or "child.field" with a field of the line. Gives the object to
+// inspect and the field, or false.
+bool inspectable(const QString& key, QString* object, QString* field)
+{
+    static const QStringList fields{QStringLiteral("text"), QStringLiteral("visible"), QStringLiteral("items")};
+    if (key == QLatin1String("windowTitle") || key == QLatin1String("objectName")) {
+        object->clear();
+        *field = key == QLatin1String("windowTitle") ? QStringLiteral("title") : QStringLiteral("objectName");
+        return true;
+    }
+    *object = key.section(QLatin1Char('.'), 0, 0);
+    *field = key.section(QLatin1Char('.'), 1);
+    return key.contains(QLatin1Char('.')) && fields.contains(*field);
+}
+
+QString factText(const QJsonValue& v)
+{
+    if (v.isArray()) {
+        QStringList parts;
+        for (const QJsonValue& e : v.toArray())
+            parts << e.toString();
+        return parts.join(QLatin1Char('|'));
+    }
+    return v.isBool() ? QVariant(v.toBool()).toString() : v.toString();
+}
+
+// One fact about a shown dialog that no inspect line tells. "help" is its
+// context help button,
 // "property" one of its properties and "child.property" one of a child's;
 // for an item view, "items" lists the first column, "columns" and "rows"
 // the headers, and "cellEditable" tells whether the box in cell (0, 0) is.
@@ -99,13 +139,16 @@ private slots:
     void tableEditorWidths();
 
 private:
-    // Every table has these columns; facts ("key=value", see fact()) are
-    // read from the dialog before the steps run.
+    // Every table has these columns; facts ("key=value", see inspectable()
+    // and fact()) are taken from the dialog before the steps run.
     static void columns();
     void check(const char* function);
     // Runs the call with the answer steps; false (and a test failure) when
     // the driver could not carry them out.
-    bool run(const char* function, const Args& args, const QByteArray& steps, CallResult* result);
+    // look, if given, runs once while the dialog is open, at the first
+    // inspect step; events gets every line the driver reports.
+    bool run(const char* function, const Args& args, const QByteArray& steps, CallResult* result,
+             const std::function<void(QDialog*)>& look = {}, QList<QJsonObject>* events = nullptr);
 
     vtkit::Engine m_engine;
     QTemporaryDir m_config;
@@ -133,7 +176,8 @@ void TestDialogs::cleanup()
 }
 
 bool TestDialogs::run(const char* function, const Args& args, const QByteArray& steps,
-                      CallResult* result)
+                      CallResult* result, const std::function<void(QDialog*)>& look,
+                      QList<QJsonObject>* events)
 {
     vtkit::AnswerScript script;
     QString error;
@@ -141,9 +185,21 @@ bool TestDialogs::run(const char* function, const Args& args, const QByteArray& 
         qWarning() << "bad answer script:" << error;
         return false;
     }
-    vtkit::DialogDriver driver(script);
+    bool looked = false;
+    vtkit::DialogDriver driver(script, [&](const QByteArray& line) {
+        const QJsonObject event = QJsonDocument::fromJson(line).object();
+        if (events)
+            *events << event;
+        if (look && !looked && event.contains(QLatin1String("inspect"))) {
+            looked = true;
+            if (QDialog* dialog = shownDialog())
+                look(dialog);
+        }
+    });
     *result = driver.call(m_engine, function, args);
-    if (driver.failed() || result->status != CallResult::Status::Ok) {
+    if (look && !looked)
+        qWarning() << "the dialog was never looked at";
+    if (driver.failed() || result->status != CallResult::Status::Ok || (look && !looked)) {
         qWarning() << "driver:" << driver.failure() << "call:" << QString::fromStdString(result->error);
         return false;
     }
@@ -167,19 +223,48 @@ void TestDialogs::check(const char* function)
     QFETCH(QStringList, expected);
     QFETCH(QStringList, facts);
 
-    QStringList seen;
-    std::unique_ptr<ShownDialogProbe> probe;
+    // Facts an inspect line tells come from inspect steps ahead of the
+    // row's own; the others are read from the dialog at the first of them.
+    QStringList objects;
+    QMap<QString, QString> looked;
+    for (const QString& f : facts) {
+        QString object, field;
+        if (!inspectable(f.section(QLatin1Char('='), 0, 0), &object, &field))
+            object.clear();
+        if (!objects.contains(object))
+            objects << object;
+    }
+    QJsonArray all;
+    for (const QString& object : objects)
+        all << QJsonObject{{QStringLiteral("inspect"), object}};
+    for (const QJsonValue& step : QJsonDocument::fromJson(steps.toUtf8()).array())
+        all << step;
+    std::function<void(QDialog*)> look;
     if (!facts.isEmpty()) {
-        probe = std::make_unique<ShownDialogProbe>([&](QDialog* dialog) {
+        look = [&](QDialog* dialog) {
             for (const QString& f : facts) {
                 const QString key = f.section(QLatin1Char('='), 0, 0);
-                seen << key + QLatin1Char('=') + fact(dialog, key);
+                QString object, field;
+                if (!inspectable(key, &object, &field))
+                    looked[key] = fact(dialog, key);
             }
-        });
-        steps = R"([{"wait": "probed"}, )" + steps.mid(1);
+        };
     }
     CallResult result;
-    QVERIFY(run(function, args, steps.toUtf8(), &result));
+    QList<QJsonObject> events;
+    QVERIFY(run(function, args, QJsonDocument(all).toJson(), &result, look, &events));
+    QStringList seen;
+    for (const QString& f : facts) {
+        const QString key = f.section(QLatin1Char('='), 0, 0);
+        QString object, field;
+        QString value = looked.value(key);
+        if (inspectable(key, &object, &field)) {
+            for (const QJsonObject& e : events)
+                if (e.value(QLatin1String("inspect")) == object)
+                    value = factText(e.value(field));
+        }
+        seen << key + QLatin1Char('=') + value;
+    }
     QCOMPARE(seen, facts);
     QCOMPARE(result.hasResult, hasResult);
     if (hasResult)
@@ -233,17 +318,17 @@ void TestDialogs::listSubset_data()
 // A double click moves the clicked item across, either way.
 void TestDialogs::listSubsetDoubleClick()
 {
-    ShownDialogProbe probe([](QDialog* dialog) {
+    const auto doubleClick = [](QDialog* dialog) {
         for (const char* name : {"listBoxAvailable", "listBoxSelected"}) {
             auto* list = dialog->findChild<QListWidget*>(QLatin1String(name));
             QVERIFY(list && list->count() > 0);
             QTest::mouseDClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
                                list->visualItemRect(list->item(0)).center());
         }
-    });
+    };
     CallResult result;
     QVERIFY(run("ListSubsetDialog", stringArgs({{"b", "a"}, {"c"}}),
-                R"([{"wait": "probed"}, {"accept": true}])", &result));
+                R"([{"inspect": ""}, {"accept": true}])", &result, doubleClick));
     // "a" went over, then the selected list's first item ("a" again, sorted
     // before "c") came back.
     QCOMPARE(textsOf(result), (QStringList{"[selected]", "c", "[notselected]", "a", "b"}));

@@ -76,6 +76,11 @@ private slots:
             << QStringList{"call", "--config-dir", QDir::tempPath() + "/vthost-test", "ParseEscape",
                            R"(["a"])"}
             << 0 << QByteArray(R"(["a"])");
+        QTest::newRow("no dialog opened, answer unused")
+            << QStringList{"call", "ParseEscape", R"(["a b"])", "--answer", "accept"} << 0
+            << QByteArray(R"(["a","b"])");
+        QTest::newRow("argument error with an answer")
+            << QStringList{"call", "TableDialog", R"(["x"])", "--answer", "accept"} << 3 << QByteArray("null");
         QTest::newRow("unknown function") << QStringList{"call", "Nope"} << 3 << QByteArray("null");
         QTest::newRow("too many arguments") << QStringList{"call", "ThdWeight", R"(["a"])", R"(["b"])"}
                                             << 3 << QByteArray("null");
@@ -99,6 +104,9 @@ private slots:
         QCOMPARE(r.out.trimmed(), out);
         if (code != 0)
             QVERIFY(!r.err.isEmpty());
+        // The reason, not the unused answer, whether or not one was given.
+        if (code == 3 && args.contains("--answer"))
+            QVERIFY2(r.err.contains("argument 1 of TableDialog must be a real vector"), r.err.constData());
     }
 
     // Printed numbers read back to the same doubles, x values included.
