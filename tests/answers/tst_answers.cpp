@@ -10,6 +10,7 @@
 #include <QGroupBox>
 #include <QImage>
 #include <QLabel>
+#include <QListWidget>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
@@ -127,6 +128,20 @@ QPushButton* button(const QString& text, QWidget* parent, QStringList* log, std:
     QObject::connect(b, &QPushButton::clicked, parent, [log, clicked] { *log << clicked(); });
     return b;
 }
+
+class DropLog : public QObject {
+public:
+    DropLog(QStringList* log, QObject* parent) : QObject(parent), m_log(log) {}
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Drop)
+            *m_log << "drop";
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    QStringList* m_log;
+};
 
 // Forms for the driver, laid out top to bottom. Every form but "buttonbox"
 // has an OkButton and a CancelButton; what the user's actions set off goes
@@ -288,6 +303,31 @@ void buildDrivenForm(const QString& form, QDialog* d, QStringList* log)
                 QObject::connect(b, &QPushButton::clicked, d, &QDialog::accept);
             if (ends == "r")
                 QObject::connect(b, &QPushButton::clicked, d, &QDialog::reject);
+        }
+    } else if (form == QLatin1String("drag")) {
+        // A tree that moves its own items, with a leaf that takes no drops,
+        // and the drops seen by an event filter on its viewport, as the
+        // dialog designer watches its tree; lists that move and that copy.
+        auto* tree = new QTreeWidget(d);
+        tree->setObjectName("tree");
+        tree->setMinimumHeight(300);
+        tree->setDragEnabled(true);
+        tree->setDragDropMode(QAbstractItemView::InternalMove);
+        auto* group = new QTreeWidgetItem(tree, {"Group"});
+        new QTreeWidgetItem(group, {"r1"});
+        new QTreeWidgetItem(group, {"r2"});
+        new QTreeWidgetItem(tree, {"Tab"});
+        auto* leaf = new QTreeWidgetItem(tree, {"Leaf"});
+        leaf->setFlags(leaf->flags() & ~Qt::ItemIsDropEnabled);
+        tree->viewport()->installEventFilter(new DropLog(log, d));
+        for (const char* name : {"moves", "copies", "transfers"}) {
+            auto* list = new QListWidget(d);
+            list->setObjectName(name);
+            list->addItems({"p", "q", "r"});
+            list->setDragEnabled(true);
+            list->setDragDropMode(name[0] == 'm' ? QAbstractItemView::InternalMove : QAbstractItemView::DragDrop);
+            if (name[0] == 't')
+                list->setDefaultDropAction(Qt::MoveAction);
         }
     } else if (form == QLatin1String("pushbuttons")) {
         // The widget library's PushButton: empty action text accepts only
@@ -464,6 +504,7 @@ void TestAnswers::parse_data()
         {"cell": "t", "row": 1, "column": 0, "text": "v"}, {"key": "t", "keys": "Ctrl+A"},
         {"menu": "t", "action": "Remove"}, {"message": "Yes"}, {"file": ""}, {"file": "/tmp/a"},
         {"color": "#102030"}, {"color": null}, {"screenshot": "a.png"}, {"inspect": ""}, {"inspect": "x"},
+        {"drag": "t", "item": "a", "onto": ""},
         {"accept": true}, {"cancel": true}])", "");
     row("empty script", "[]", "");
     row("no file", "no file", "cannot read answer script");
@@ -654,6 +695,29 @@ void TestAnswers::driver_data()
        R"([{"set": "edit", "text": "x"}, {"accept": true}])", true, {"x"}, {"not modal"});
     fails("a failed step closes a non-modal dialog too", "nonmodal", R"([{"click": "nothing"}])",
           R"(no widget "nothing")");
+    ok("drag into a tree item, below one that takes no drops, below all", "drag",
+       R"([{"drag": "tree", "item": "Tab", "onto": "Group"}, {"inspect": "tree"},
+           {"drag": "tree", "item": "r1", "onto": "Leaf"}, {"inspect": "tree"},
+           {"drag": "tree", "item": "Group", "onto": ""}, {"inspect": "tree"}, {"accept": true}])",
+       true, {},
+       {"drop", R"("items":["Group","  r1","  r2","  Tab","Leaf"])", R"("items":["Group","  r2","  Tab","Leaf","r1"])",
+        R"("items":["Leaf","r1","Group","  r2","  Tab"])"});
+    // A plain drag in a view that also takes drags from elsewhere copies,
+    // as Qt's own drag does there.
+    ok("drag in a list that moves its rows, one that copies and one that moves by default", "drag",
+       R"([{"drag": "moves", "item": "p", "onto": "q"}, {"inspect": "moves"},
+           {"drag": "copies", "item": "p", "onto": "r"}, {"inspect": "copies"},
+           {"drag": "transfers", "item": "p", "onto": "r"}, {"inspect": "transfers"}, {"accept": true}])",
+       true, {},
+       {R"("items":["q","p","r"],"selected":["p"])", R"("items":["p","q","r","p"])",
+        R"("inspect":"transfers")", R"("items":["q","r","p"])"});
+    fails("an item can't go into itself", "drag", R"([{"drag": "tree", "item": "Group", "onto": "r2"}])",
+          R"("Group" can't go into itself)");
+    fails("drag of an unknown item", "drag", R"([{"drag": "tree", "item": "zz", "onto": ""}])",
+          R"(no item "zz" in "tree")");
+    fails("a list that doesn't drag", "choices", R"([{"drag": "list", "item": "x", "onto": "y"}])",
+          R"("list" does not drag its items)");
+
     fails("unknown widget fails at once", "edit", R"([{"click": "Foo"}])",
           R"(step 1 {"click": "Foo"}: no widget "Foo" in dialog "TestDialog")");
     ok("a step too many", "edit", R"([{"accept": true}, {"click": "okButton"}])", true, {"start"}, {},
