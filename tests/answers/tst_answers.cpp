@@ -19,6 +19,7 @@
 #include <QTreeWidget>
 #include <QTableWidget>
 #include <QTemporaryDir>
+#include <QThread>
 #include <QVBoxLayout>
 #include <QtTest>
 
@@ -386,6 +387,7 @@ private slots:
     void inspect();
     void noDialog_data();
     void noDialog();
+    void slowStart();
     void screenshot();
     void engineCall();
 
@@ -851,6 +853,29 @@ void TestAnswers::noDialog()
     });
     QVERIFY2(driver.failure() == failure, qPrintable(driver.failure()));
     QVERIFY2(clock.elapsed() >= 5000 && clock.elapsed() < 8000, qPrintable(QString::number(clock.elapsed())));
+}
+
+// A call that takes longer than a wait to open its dialog (a machine
+// under load, a slow start) still gets the whole wait for its first step.
+void TestAnswers::slowStart()
+{
+    AnswerScript answers;
+    QVERIFY(AnswerScript::fromJson(R"([{"message": "OK"}, {"accept": true}])", &answers, nullptr));
+    QStringList events;
+    DialogDriver driver(answers, [&events](const QByteArray& line) { events << QString::fromUtf8(line); });
+    bool accepted = false;
+    driver.run([&] {
+        QThread::msleep(5500); // no event loop, no tick
+        QDialog dialog;
+        QStringList log;
+        buildDrivenForm("edit", &dialog, &log);
+        QTimer::singleShot(300, &dialog, [&dialog] { QMessageBox::information(&dialog, "Later", "A note"); });
+        accepted = dialog.exec() == QDialog::Accepted;
+    });
+    QVERIFY2(!driver.failed(), qPrintable(driver.failure()));
+    QVERIFY(accepted);
+    QCOMPARE(events.size(), 1);
+    QVERIFY2(events[0].contains(R"("title":"Later")"), qPrintable(events[0]));
 }
 
 void TestAnswers::screenshot()
