@@ -11,6 +11,7 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QGroupBox>
+#include <QItemSelectionModel>
 #include <QJsonArray>
 #include <QLabel>
 #include <QLayout>
@@ -81,22 +82,32 @@ QJsonValue jsonList(const QStringList& texts)
     return QJsonArray::fromStringList(texts);
 }
 
-// The texts of the selected rows in model order.
+// The texts of the selected rows, top to bottom as the view lists them
+// (depth first in a tree).
+void selectedRows(const QItemSelectionModel* selection, const QModelIndex& parent, int depth,
+                  QStringList* out)
+{
+    const QAbstractItemModel* model = selection->model();
+    const int rows = model->rowCount(parent);
+    for (int r = 0; r < rows; ++r) {
+        const QModelIndex index = model->index(r, 0, parent);
+        // Not rowIntersectsSelection: it gives up at the first range under
+        // another parent.
+        bool selected = false;
+        for (int c = 0; !selected && c < model->columnCount(parent) && c < 64; ++c)
+            selected = selection->isSelected(model->index(r, c, parent));
+        if (selected)
+            *out << index.data(Qt::DisplayRole).toString();
+        if (depth < 64)
+            selectedRows(selection, index, depth + 1, out);
+    }
+}
+
 QStringList selectedTexts(const QAbstractItemView* v)
 {
     QStringList out;
-    if (!v->selectionModel())
-        return out;
-    QModelIndexList rows = v->selectionModel()->selectedIndexes();
-    std::sort(rows.begin(), rows.end());
-    QList<QPersistentModelIndex> seen;
-    for (const QModelIndex& index : rows) {
-        const QModelIndex first = index.siblingAtColumn(0);
-        if (seen.contains(first))
-            continue;
-        seen << first;
-        out << index.data(Qt::DisplayRole).toString();
-    }
+    if (v->selectionModel() && v->selectionModel()->model())
+        selectedRows(v->selectionModel(), v->rootIndex(), 0, &out);
     return out;
 }
 

@@ -272,9 +272,11 @@ void buildDrivenForm(const QString& form, QDialog* d, QStringList* log)
         stack->setCurrentIndex(1);
         auto* tree = new QTreeWidget(d);
         tree->setObjectName("tree");
+        tree->setSelectionMode(QAbstractItemView::ExtendedSelection);
         auto* top = new QTreeWidgetItem(tree, {"Page"});
-        new QTreeWidgetItem(new QTreeWidgetItem(top, {"Group"}), {"p1"});
-        new QTreeWidgetItem(tree, {"Other"});
+        auto* p1 = new QTreeWidgetItem(new QTreeWidgetItem(top, {"Group"}), {"p1"});
+        (new QTreeWidgetItem(tree, {"Other"}))->setSelected(true);
+        p1->setSelected(true);
         top->setSelected(true);
         auto* tabs = new QTabWidget(d);
         tabs->setObjectName("tabs");
@@ -785,8 +787,8 @@ void TestAnswers::inspect_data()
     row("text edit", "text", {{"text", "two\nlines"}});
     row("hidden button", "Hidden", {{"class", "QPushButton"}, {"hidden", true}, {"visible", false}, {"checked", null}});
     row("stacked widget", "stack", {{"current", 1}, {"items", null}});
-    row("tree, indented by level", "tree",
-        {{"items", QJsonArray{"Page", "  Group", "    p1", "Other"}}, {"selected", QJsonArray{"Page"}}});
+    row("tree, indented by level, selection top to bottom", "tree",
+        {{"items", QJsonArray{"Page", "  Group", "    p1", "Other"}}, {"selected", QJsonArray{"Page", "p1", "Other"}}});
     row("tab widget", "tabs", {{"current", 0}, {"items", QJsonArray{"&Main", "Extra"}}, {"text", null}});
     row("field on a page not current: not hidden, not visible", "onPage2",
         {{"hidden", false}, {"visible", false}, {"text", ""}});

@@ -59,7 +59,7 @@ struct Answered {
     CallResult result;
     QList<QJsonObject> events; // each line the driver reported, in order
 
-    // The event lines whose first key is kind ("message", "help", "inspect").
+    // The event lines whose first key is kind ("messageBox", "help", "inspect").
     QList<QJsonObject> eventsOf(const QString& kind) const
     {
         QList<QJsonObject> out;
