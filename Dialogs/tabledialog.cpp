@@ -15,10 +15,16 @@
 
 namespace {
 
-// Bounds on what a script can ask for, so that a wild count can neither
-// overflow the table's cell index nor stall the dialog while it builds.
-constexpr int kMaxColumns = 1000;
-constexpr int kMaxCells = 200000;
+// Limits on what a script can ask of a table: far beyond what a person
+// can work in, and small enough that building the dialog never stalls the
+// host. A count of 1e18, or a row text of 100,000 "|", is read as the limit.
+constexpr int kMaxRows = 1000;
+constexpr int kMaxColumns = 100;
+// TableEditor puts a combo box in every cell, and a few thousand of them
+// take seconds to make, so its cells and their items are bounded too.
+constexpr int kMaxChoiceCells = 2000;
+constexpr int kMaxChoices = 1000;       // per column
+constexpr int kMaxChoiceItems = 200000; // over all the boxes
 constexpr int kMaxRememberedWidth = 4000;
 
 // A count from the script: truncated; absent, non-positive or NaN gives 10.
@@ -70,8 +76,8 @@ void TableDialog::loadPlainTable(UserFunctionInterface* call)
     const double* counts = nullptr;
     unsigned countCount = 0;
     sp_GetRealIfVector(call, 0, &counts, &countCount);
+    const int rows = tableCount(counts, countCount, 0, kMaxRows);
     const int columns = tableCount(counts, countCount, 1, kMaxColumns);
-    const int rows = tableCount(counts, countCount, 0, kMaxCells / columns);
     table->setRowCount(rows);
     table->setColumnCount(columns);
 
@@ -121,10 +127,18 @@ void TableDialog::loadEditorTable(UserFunctionInterface* call)
     if (!columnHeaders.isEmpty())
         table->setHorizontalHeaderLabels(columnHeaders);
 
-    const int maxRows = kMaxCells / std::max(columns, 1);
+    int longestChoices = 1;
+    for (int column = 0; column < columns; ++column) {
+        QStringList columnChoices = choices.at(column).split(QLatin1Char('|'), Qt::KeepEmptyParts);
+        if (columnChoices.size() > kMaxChoices)
+            columnChoices.erase(columnChoices.begin() + kMaxChoices, columnChoices.end());
+        longestChoices = std::max(longestChoices, int(columnChoices.size()));
+        m_columnChoices << columnChoices;
+    }
+    const int maxRows = std::min({kMaxRows, kMaxChoiceCells / std::max(columns, 1),
+                                  kMaxChoiceItems / longestChoices});
     for (int column = 0; column < columns; ++column) {
         key += dialogcommon::elementOr(columnHeaders, column);
-        m_columnChoices << choices.at(column).split(QLatin1Char('|'), Qt::KeepEmptyParts);
         if (column >= selections.size())
             continue;
         QStringList values = selections.at(column).split(QLatin1Char('|'), Qt::KeepEmptyParts);

@@ -7,19 +7,23 @@
 #include <QString>
 #include <QStringList>
 
-#include <climits>
-
 namespace {
 
 enum class SplitMode { Parse, Scan };
 
-// Pads must not turn NaN or a huge count into undefined behaviour.
+// ScanEscape pads its result to at least this many parts. A script asks
+// for a handful so that it can index fields without testing; a count of
+// 1e18 is a mistake, not a request for gigabytes of empty strings, and is
+// read as this limit.
+constexpr int kMaxPadParts = 100000;
+
+// NaN and non-positive counts pad nothing.
 int padCount(double value)
 {
     if (!(value > 0))
         return 0;
-    if (value >= double(INT_MAX))
-        return INT_MAX;
+    if (value >= double(kMaxPadParts))
+        return kMaxPadParts;
     return static_cast<int>(value);
 }
 

@@ -168,6 +168,13 @@ void DialogDriver::setFailOnDialog(bool on)
     d->failOnDialog = on;
 }
 
+void DialogDriver::setWaitMs(int ms)
+{
+    const qint64 wait = ms > 0 ? ms : answers::kWaitMs;
+    for (answers::Patience* p : {&d->stepWait, &d->idleWait, &d->absentWait, &d->menuWait})
+        p->setWait(wait);
+}
+
 bool DialogDriver::failed() const
 {
     return !d->failure.isEmpty();

@@ -46,11 +46,14 @@ public:
     bool exhausted()
     {
         ++m_ticks;
-        return m_clock.isValid() && m_clock.elapsed() > kWaitMs && m_ticks > kWaitMs / kTickMs / 2;
+        return m_clock.isValid() && m_clock.elapsed() > m_waitMs && m_ticks > m_waitMs / kTickMs / 2;
     }
+    void setWait(qint64 ms) { m_waitMs = ms; }
+    qint64 wait() const { return m_waitMs; }
 
 private:
     QElapsedTimer m_clock;
+    qint64 m_waitMs = kWaitMs;
     int m_ticks = 0;
 };
 

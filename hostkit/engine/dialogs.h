@@ -63,6 +63,10 @@ public:
 
     // Without a script: fail at once when a dialog opens (no display).
     void setFailOnDialog(bool on);
+    // How long a step may wait, and a dialog stay open after the last step,
+    // before the run fails; 5000 ms unless set. The argument fuzzer shortens
+    // it so that a dialog that refuses its answer costs little.
+    void setWaitMs(int ms);
 
     // Runs engine.call under the driver; the result's status is Failed with
     // a clear error when the script could not be carried out to the end.

@@ -378,9 +378,11 @@ void TestDialogs::tableDialog_data()
     QTest::newRow("counts are truncated; below one gives 10")
         << tableArgs({0.5, 3.7}) << accept << true << emptyRows(10, 3) << none;
     QTest::newRow("NaN gives 10") << tableArgs({nan, 1}) << accept << true << emptyRows(10, 1) << none;
-    QTest::newRow("huge count is bounded, not fatal")
-        << tableArgs({1, 1e300}, {"a"}) << accept << true << QStringList{"a" + QString(1000, QLatin1Char(';'))}
+    QTest::newRow("huge column count is capped at 100")
+        << tableArgs({1, 1e300}, {"a"}) << accept << true << QStringList{"a" + QString(100, QLatin1Char(';'))}
         << none;
+    QTest::newRow("huge row count is capped at 1000")
+        << tableArgs({1e300, -5}) << accept << true << emptyRows(1000, 10) << none;
     QTest::newRow("parts beyond the columns and rows beyond the count are dropped")
         << tableArgs({1, 2}, {"a;b;c;d", "c;d"}) << accept << true << QStringList{"a;b;"} << none;
     QTest::newRow("short rows and missing rows are empty cells")
@@ -449,6 +451,12 @@ void TestDialogs::tableEditor_data()
                        "tableWidget.selectionMode=" + QString::number(QAbstractItemView::SingleSelection),
                        "tableWidget.selectionBehavior=" + QString::number(QAbstractItemView::SelectRows),
                        "tableWidget.columns=Gate|Level", "tableWidget.rows=First|2", "tableWidget.cellEditable=false"};
+    QTest::newRow("rows are capped at 1000")
+        << stringArgs({{"a|b"}, {QString("b|").repeated(5000)}, texts}) << accept << true
+        << QStringList{QStringList(QVector<QString>(1000, "b").toList()).join('|')} << none;
+    QTest::newRow("rows are capped by the choices they show")
+        << stringArgs({{QString("b|").repeated(5000)}, {QString("b|").repeated(5000)}, texts}) << accept
+        << true << QStringList{QStringList(QVector<QString>(200, "b").toList()).join('|')} << none;
     QTest::newRow("pick in a cell")
         << stringArgs({{"a|b|c"}, {"a|a"}, texts})
         << R"([{"cell": "tableWidget", "row": 1, "column": 0, "text": "c"}, {"accept": true}])" << true

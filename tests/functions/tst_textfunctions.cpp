@@ -4,6 +4,8 @@
 
 #include <QtTest>
 
+#include <limits>
+
 using vtkit::CallResult;
 using vtkit::ScriptValue;
 
@@ -33,6 +35,8 @@ private slots:
     void split_data();
     void split();
     void emptyArguments();
+    void padLimits_data();
+    void padLimits();
     void searchIndex_data();
     void searchIndex();
     void thdWeight_data();
@@ -117,6 +121,36 @@ void TestTextFunctions::emptyArguments()
     // An empty delimiter array is an absent one.
     const CallResult r = m_engine.call("ScanEscape", {one("a;b"), empty, ScriptValue::fromReals({})});
     QCOMPARE(stringsOf(r), (QByteArrayList{"a", "b"}));
+}
+
+void TestTextFunctions::padLimits_data()
+{
+    QTest::addColumn<double>("pad");
+    QTest::addColumn<int>("parts");
+
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    QTest::newRow("1e18 is capped") << 1e18 << 100000;
+    QTest::newRow("2^31 is capped") << 2147483648.0 << 100000;
+    QTest::newRow("infinity is capped") << std::numeric_limits<double>::infinity() << 100000;
+    QTest::newRow("just below the cap") << 99999.9 << 99999;
+    QTest::newRow("-1e18 pads nothing") << -1e18 << 2;
+    QTest::newRow("nan pads nothing") << nan << 2;
+}
+
+// A count from a script never turns into an allocation request.
+void TestTextFunctions::padLimits()
+{
+    QFETCH(double, pad);
+    QFETCH(int, parts);
+
+    QElapsedTimer clock;
+    clock.start();
+    const CallResult r =
+        m_engine.call("ScanEscape", {one("a;b"), one(";"), ScriptValue::fromReals({pad})});
+    QCOMPARE(int(r.status), int(CallResult::Status::Ok));
+    QCOMPARE(int(r.value.strings.size()), parts);
+    QCOMPARE(QByteArray::fromStdString(r.value.strings.back()), parts > 2 ? "" : "b");
+    QVERIFY2(clock.elapsed() < 5000, "a huge count must not cost time");
 }
 
 void TestTextFunctions::searchIndex_data()
