@@ -3,9 +3,12 @@
 #include "callargs.h"
 #include "registration.h"
 
-#include <QRegularExpression>
-#include <QString>
-#include <QStringList>
+#include "escapesplitter.h"
+
+#include <algorithm>
+#include <climits>
+#include <string>
+#include <string_view>
 
 namespace {
 
@@ -33,55 +36,47 @@ void splitEscaped(UserFunctionInterface* ufi, SplitMode mode)
     if (!textArg)
         return;
     const char* textBytes = static_cast<char* const*>(textArg->data)[0];
-    const QString text = QString::fromLatin1(textBytes);
-    if (text.isEmpty())
+    if (!textBytes || !*textBytes)
         return;
 
-    QString pattern = mode == SplitMode::Parse ? QStringLiteral("(?<!\\\\) |(?<!\\\\)\\t|(?<!\\\\),")
-                                               : QStringLiteral("(?<!\\\\);");
-    QStringList delimiters = mode == SplitMode::Parse
-                                 ? QStringList{QStringLiteral(" "), QStringLiteral("\t"),
-                                               QStringLiteral(",")}
-                                 : QStringList{QStringLiteral(";")};
-
+    std::string_view delimiters = mode == SplitMode::Parse ? " \t," : ";";
     if (const ArgRecord* delimArg = callargs::present(ufi, 1)) {
-        const QString given = QString::fromLatin1(static_cast<char* const*>(delimArg->data)[0]);
-        if (given.isEmpty()) {
+        const char* given = static_cast<char* const*>(delimArg->data)[0];
+        if (!given || !*given) {
             // Nothing to split at: the text goes back byte for byte.
             char** out = ufi->MakeStringArray(ufi, 1);
             if (out)
                 out[0] = ufi->DupString(textBytes);
             return;
         }
-        QStringList patterns;
-        delimiters.clear();
-        for (const QChar c : given) {
-            patterns << QStringLiteral("(?<!\\\\)") + QRegularExpression::escape(QString(c));
-            delimiters << QString(c);
-        }
-        pattern = patterns.join(QLatin1Char('|'));
+        delimiters = given;
     }
 
-    const QRegularExpression re(pattern);
-    QStringList parts = text.split(re, mode == SplitMode::Parse ? Qt::SkipEmptyParts
-                                                                : Qt::KeepEmptyParts);
-
+    // Counted first, so the result is made at its size and each part is
+    // copied only into it.
+    const escapesplit::Splitter splitter(delimiters);
+    const bool keepEmpty = mode == SplitMode::Scan;
+    const std::string_view text(textBytes);
+    std::size_t size = splitter.count(text, keepEmpty);
     if (mode == SplitMode::Scan) {
         double wanted = 0;
         const int minParts = callargs::real(ufi, 2, &wanted) ? padCount(wanted) : 0;
-        while (parts.size() < minParts)
-            parts << QString();
+        size = std::max(size, static_cast<std::size_t>(minParts));
     }
+    // A text of more than INT_MAX parts can't come through an 8-bit string
+    // argument of the host; bounded all the same.
+    size = std::min<std::size_t>(size, INT_MAX);
 
-    char** out = ufi->MakeStringArray(ufi, parts.size());
+    char** out = ufi->MakeStringArray(ufi, static_cast<int>(size));
     if (!out)
         return;
-    for (int i = 0; i < parts.size(); ++i) {
-        QString part = parts.at(i);
-        for (const QString& delimiter : qAsConst(delimiters))
-            part.replace(QLatin1Char('\\') + delimiter, delimiter, Qt::CaseSensitive);
-        out[i] = ufi->DupString(part.toUtf8().constData());
-    }
+    std::size_t filled = 0;
+    splitter.split(text, keepEmpty, [&](const std::string& part) {
+        if (filled < size)
+            out[filled++] = ufi->DupString(part.c_str());
+    });
+    for (; filled < size; ++filled)
+        out[filled] = ufi->DupString("");
 }
 
 long long parseEscape(UserFunctionInterface* ufi)
