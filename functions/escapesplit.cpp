@@ -52,31 +52,23 @@ void splitEscaped(UserFunctionInterface* ufi, SplitMode mode)
         delimiters = given;
     }
 
-    // Counted first, so the result is made at its size and each part is
-    // copied only into it.
-    const escapesplit::Splitter splitter(delimiters);
-    const bool keepEmpty = mode == SplitMode::Scan;
-    const std::string_view text(textBytes);
-    std::size_t size = splitter.count(text, keepEmpty);
+    escapesplit::Parts parts;
+    escapesplit::Splitter(delimiters).split(textBytes, mode == SplitMode::Scan, &parts);
+    std::size_t size = parts.list().size();
     if (mode == SplitMode::Scan) {
         double wanted = 0;
         const int minParts = callargs::real(ufi, 2, &wanted) ? padCount(wanted) : 0;
         size = std::max(size, static_cast<std::size_t>(minParts));
     }
-    // A text of more than INT_MAX parts can't come through an 8-bit string
-    // argument of the host; bounded all the same.
+    // More than INT_MAX parts can't come from one 8-bit string argument of
+    // the host; bounded all the same.
     size = std::min<std::size_t>(size, INT_MAX);
 
     char** out = ufi->MakeStringArray(ufi, static_cast<int>(size));
     if (!out)
         return;
-    std::size_t filled = 0;
-    splitter.split(text, keepEmpty, [&](const std::string& part) {
-        if (filled < size)
-            out[filled++] = ufi->DupString(part.c_str());
-    });
-    for (; filled < size; ++filled)
-        out[filled] = ufi->DupString("");
+    for (std::size_t i = 0; i < size; ++i)
+        out[i] = ufi->DupString(i < parts.list().size() ? parts.list()[i] : "");
 }
 
 long long parseEscape(UserFunctionInterface* ufi)

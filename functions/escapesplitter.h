@@ -14,11 +14,27 @@
 #pragma once
 
 #include <array>
-#include <cstddef>
+#include <cstdint>
+#include <deque>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace escapesplit {
+
+// The parts of one text, each a NUL-terminated UTF-8 string. Most point
+// into a copy of the text cut at its split points, so a part costs no copy
+// of its own: only parts with bytes above 127 grow and are stored apart.
+class Parts {
+public:
+    const std::vector<const char*>& list() const { return m_list; }
+
+private:
+    friend class Splitter;
+    std::string m_work;
+    std::deque<std::string> m_wide;
+    std::vector<const char*> m_list;
+};
 
 class Splitter {
 public:
@@ -26,50 +42,18 @@ public:
     // replacement pass), and so does a backslash among them.
     explicit Splitter(std::string_view delimiters);
 
-    // Calls part(const std::string& utf8) for each part, in order; with
-    // keepEmpty false, empty parts are left out.
-    template <class Part>
-    void split(std::string_view text, bool keepEmpty, Part&& part) const
-    {
-        std::string buffer;
-        std::size_t start = 0;
-        for (std::size_t i = 0; i < text.size(); ++i) {
-            if (!m_isDelimiter[static_cast<unsigned char>(text[i])]
-                || (i > 0 && text[i - 1] == '\\'))
-                continue;
-            if (keepEmpty || i > start) {
-                unescape(text.substr(start, i - start), &buffer);
-                part(static_cast<const std::string&>(buffer));
-            }
-            start = i + 1;
-        }
-        if (keepEmpty || text.size() > start) {
-            unescape(text.substr(start), &buffer);
-            part(static_cast<const std::string&>(buffer));
-        }
-    }
-
-    // How many parts split() gives, found without making them.
-    std::size_t count(std::string_view text, bool keepEmpty) const
-    {
-        std::size_t parts = 0;
-        std::size_t start = 0;
-        for (std::size_t i = 0; i < text.size(); ++i) {
-            if (!m_isDelimiter[static_cast<unsigned char>(text[i])]
-                || (i > 0 && text[i - 1] == '\\'))
-                continue;
-            parts += keepEmpty || i > start;
-            start = i + 1;
-        }
-        return parts + (keepEmpty || text.size() > start);
-    }
-
-    // One part as the result holds it, into *out.
-    void unescape(std::string_view part, std::string* out) const;
+    // With keepEmpty false, empty parts are left out.
+    void split(std::string_view text, bool keepEmpty, Parts* out) const;
 
 private:
+    // Removes the escapes of a part in place; returns its new length.
+    std::size_t unescape(char* part, std::size_t size) const;
+
     std::string m_delimiters;
-    std::array<bool, 256> m_isDelimiter{};
+    enum : std::uint8_t { Plain = 0, Delimiter = 1, Special = 2 };
+    // Delimiter, and Special for a backslash or a byte above 127: a part
+    // without Special bytes is already as the result holds it.
+    std::array<std::uint8_t, 256> m_class{};
     // Distinct delimiters, none of them a backslash: the replacement passes
     // then never see each other's output, and one pass does them all.
     bool m_onePass = true;

@@ -440,6 +440,7 @@ CallResult Engine::call(const std::string& name, const std::vector<ScriptValue>&
     if (c.made == CallContext::Made::Strings && c.strings) {
         r.hasResult = true;
         r.value.kind = ScriptValue::Kind::Strings;
+        r.value.strings.reserve(c.stringCount);
         for (std::size_t i = 0; i < c.stringCount; ++i) {
             const char* s = (*c.strings)[i];
             r.value.strings.emplace_back(s ? s : "");

@@ -77,6 +77,12 @@ void TestTextFunctions::split_data()
     QTest::newRow("parse empty text") << "ParseEscape" << QByteArrayList{""} << -1 << false << none;
     QTest::newRow("parse empty text, empty delimiters")
         << "ParseEscape" << QByteArrayList{"", ""} << -1 << false << none;
+    QTest::newRow("backslash as delimiter splits unless escaped by one")
+        << "ParseEscape" << QByteArrayList{"a\\b\\\\c", "\\"} << -1 << true
+        << QByteArrayList{"a", "b", "\\c"};
+    QTest::newRow("a repeated delimiter unescapes twice")
+        << "ScanEscape" << QByteArrayList{"\\\\\\;a;b", ";;"} << -1 << true
+        << QByteArrayList{"\\;a", "b"};
     QTest::newRow("scan keeps empty parts") << "ScanEscape" << QByteArrayList{"a;;b"} << -1 << true
                                             << QByteArrayList{"a", "", "b"};
     QTest::newRow("scan default is only semicolon")
