@@ -51,7 +51,7 @@ using vtkit::ScriptValue;
 namespace {
 
 constexpr std::uint64_t kDefaultSeed = 0x5eed18;
-constexpr int kDefaultCalls = 16;
+constexpr int kDefaultCalls = 12;
 constexpr int kDefaultLimitMs = 30000;
 // A dialog that refuses its answer is closed after this; a driver failure
 // is not a fault, so it should cost little.
