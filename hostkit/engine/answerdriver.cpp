@@ -130,7 +130,9 @@ void DialogDriver::Private::tick()
     }
     if (next >= steps.size()) {
         if (idleWait.exhausted())
-            fail(QStringLiteral("dialog %1 still open 5 s after the last step").arg(quoted(windowName(dialog))));
+            fail(QStringLiteral("dialog %1 still open %2 s after the last step")
+                     .arg(quoted(windowName(dialog)))
+                     .arg(double(idleWait.wait()) / 1000));
         return;
     }
     const QJsonObject step = steps[next].toObject();
