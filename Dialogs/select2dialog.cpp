@@ -7,19 +7,13 @@
 
 #include <QDialog>
 
-#include <new>
-
 namespace {
 
 using Select2Dialog = UserDialogClass<Ui::Select2Dialog, QDialog>;
 
 QDialog* createSelect2Dialog(UserFunctionInterface* /*call*/, void* /*unused*/)
 {
-    auto* dialog = new (std::nothrow) Select2Dialog(nullptr, 0, "Select2Dialog");
-    if (!dialog)
-        return nullptr;
-    dialog->setWindowFlags(dialog->windowFlags() & ~Qt::WindowContextHelpButtonHint);
-    return dialog;
+    return newUserDialog<Select2Dialog>("Select2Dialog");
 }
 
 } // namespace

@@ -3,6 +3,9 @@
 #pragma once
 
 #include <QString>
+#include <Qt>
+
+#include <new>
 
 class QWidget;
 
@@ -20,3 +23,14 @@ public:
 protected:
     Ui m_ui;
 };
+
+// The factory of such a dialog: a new dialog with the object name and no
+// question mark in its title bar, or null when there is no memory for one.
+template <class Dialog>
+Dialog* newUserDialog(const char* name)
+{
+    auto* dialog = new (std::nothrow) Dialog(nullptr, 0, name);
+    if (dialog)
+        dialog->setWindowFlags(dialog->windowFlags() & ~Qt::WindowContextHelpButtonHint);
+    return dialog;
+}

@@ -113,3 +113,5 @@ show call LoopForgeEditPWMDialog '["Carrier", "Outputs"]' \
     "Outputs:Channels:Output B:0:1::label", "Outputs:Channels:Active high:1:1::bool"]' \
   '["Up-down", "1000", "100Meg", "50n", "1", "0", "", "", "ePWM1"]' \
   '["ePWM U5", "<b>ePWM</b> generator", "Symbol description", "150"]' --answer $d/loopforgepwm.json
+show call CreateDiodeDialog '["10", "1", "100M", "50n", "0.7", "1", "0.9", "10", "100p", "1", "D1N4148"]' \
+  --answer $d/creatediode.json
