@@ -167,10 +167,12 @@ void sp_WriteOption(const YString& name, const YString& value)
     s.sync();
 }
 
-// Written as "1" or "0".
+// True is "1". False is stored as empty text: options written false mean
+// "no value of its own" (a setting left at its factory default, a library
+// name that isn't set), so that they read back as false, 0 and "" alike.
 void sp_WriteOption(const YString& name, bool value)
 {
-    sp_WriteOption(name, YString(value ? "1" : "0"));
+    sp_WriteOption(name, YString(value ? "1" : ""));
 }
 
 void sp_WriteOption(const YString& name, const char* value)

@@ -2,6 +2,10 @@
 // and answered as a script's user would.
 #include "dialogtest.h"
 #include "hostsupport.h"
+#include "kitsupport.h"
+
+#include <QDir>
+#include <QFile>
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -18,6 +22,8 @@ private slots:
 
     void createDiode_data();
     void createDiode();
+    void brelvonOptions_data();
+    void brelvonOptions();
 
 private:
     vtkit::Engine m_engine;
@@ -77,6 +83,94 @@ void TestModelCreation::createDiode()
     QCOMPARE(run.result.hasResult, hasResult);
     if (hasResult)
         QCOMPARE(textsOf(run.result), expected);
+}
+
+// ------------------------------------------------------- BrelvonOptionsDialog
+
+namespace {
+
+// Current settings equal to the factory defaults, per device.
+const QStringList kDiode{"1", "0", "1", "100", "25", "1", "3", "1", "1k", "0"};
+const QStringList kMos{"1", "0", "10", "100", "10", "1", "25", "1", "1Meg", "2", "0", "0.9", "0.1", "100"};
+const QStringList kJfet{"0", "0", "1", "100", "10", "1", "25", "1", "1Meg", "0", "0.9", "0.1", "100"};
+const QStringList kZener{"1", "0", "5m", "25", "3", "1", "1Meg", "0"};
+const QStringList kBjt{"1", "0", "1", "1", "0"};
+
+Args optionArgs(QStringList diodeNow = kDiode, QStringList mosDefaults = kMos, QStringList zenerNow = kZener)
+{
+    return stringArgs({diodeNow, kDiode, kMos, mosDefaults, kMos, kMos, kJfet, kJfet, zenerNow, kZener,
+                       kBjt, kBjt, {"10", "11", "12", "13", "14", "15"}, {"Vendor;PSU Controllers|Vendor;Diodes"}});
+}
+
+} // namespace
+
+void TestModelCreation::brelvonOptions_data()
+{
+    QTest::addColumn<Args>("args");
+    QTest::addColumn<QString>("steps");
+    QTest::addColumn<QStringList>("options"); // "name=value" after the call
+
+    const QString ok = R"({"click": "pushButtonOk"}])";
+    const QString px = QStringLiteral("BRELVONModelExtraction");
+    QTest::newRow("values equal to their defaults are written false")
+        << optionArgs() << "[" + ok
+        << QStringList{px + "MosDefaultIdPeak=", px + "DiodeUseExtractedModel=", px + "ZenerNumSeg=",
+                       "BRELVONCreateASCIIModelSymbolCategory=", "BRELVONCreateASCIIModelSymbolLibrary="};
+    QTest::newRow("a changed setting is written as a number")
+        << optionArgs() << R"([{"set": "spinnerMosIdPeak", "text": "20"}, )" + ok
+        << QStringList{px + "MosDefaultIdPeak=20", px + "MosDefaultVdPeak="};
+    QTest::newRow("less than 1e-10 away counts as unchanged")
+        << optionArgs() << R"([{"set": "spinnerMosIdPeak", "text": "10.00000000001"}, )" + ok
+        << QStringList{px + "MosDefaultIdPeak="};
+    QTest::newRow("a current value away from the default is written without a change")
+        << optionArgs({"0", "0", "2", "100", "25", "1", "3", "1", "1k", "0"}) << "[" + ok
+        << QStringList{px + "DiodeUseExtractedModel=0", px + "DiodeDefaultIdPeak=2"};
+    QTest::newRow("reset puts the defaults back and checks the limit whatever it says")
+        << optionArgs(kDiode, {"1", "0", "10", "100", "10", "1", "25", "0", "1Meg", "2", "0", "0.9", "0.1", "100"})
+        << R"([{"set": "spinnerMosIdPeak", "text": "20"}, {"click": "tbResetMosToDefaults"}, )" + ok
+        << QStringList{px + "MosDefaultIdPeak=", px + "MosDefaultLimitMaxRoff=1"};
+    QTest::newRow("reset with a default array one short does nothing")
+        << optionArgs(kDiode, kMos.mid(0, 13))
+        << R"([{"set": "spinnerMosIdPeak", "text": "20"}, {"click": "tbResetMosToDefaults"}, )" + ok
+        << QStringList{px + "MosDefaultIdPeak=20"};
+    QTest::newRow("the zener's segments go to the option in its place")
+        << optionArgs(kDiode, kMos, {"1", "0", "5m", "25", "5", "1", "1Meg", "0"}) << "[" + ok
+        << QStringList{px + "ZenerDefaultLimitMaxRoff=5", px + "ZenerNumSeg="};
+    QTest::newRow("the IGBT debug box reads the diode array")
+        << optionArgs({"1", "0", "1", "100", "25", "1", "3", "1", "1k", "0", "1"}) << "[" + ok
+        << QStringList{px + "IgbtDebug=1", px + "MosDebug="};
+    QTest::newRow("print statements out takes the graph statements with them")
+        << optionArgs() << R"([{"key": "tabWidgetMain", "keys": "Ctrl+Tab"}, {"check": "checkBoxASCIINoPrint", "on": true}, )" + ok
+        << QStringList{"BRELVONCreateASCIIModelNoDotPrint=1", "BRELVONCreateASCIIModelNoDotGraph=1"};
+    QTest::newRow("a global library without a name is not stored")
+        << optionArgs() << R"([{"key": "tabWidgetMain", "keys": "Ctrl+Tab"}, {"click": "radioButtonSymbolGlobal"}, )" + ok
+        << QStringList{"BRELVONCreateASCIIModelSymbolLibrary="};
+    QTest::newRow("a global library and another category are stored")
+        << optionArgs()
+        << R"([{"key": "tabWidgetMain", "keys": "Ctrl+Tab"}, {"click": "radioButtonSymbolGlobal"}, {"set": "editBoxSymbolLibFileName", "text": "/lib/mine.sxslb"},
+              {"set": "comboBoxSymbolCategory", "text": "Vendor;Diodes"}, )" + ok
+        << QStringList{"BRELVONCreateASCIIModelSymbolLibrary=/lib/mine.sxslb",
+                       "BRELVONCreateASCIIModelSymbolCategory=Vendor;Diodes"};
+    QTest::newRow("cancel writes nothing")
+        << optionArgs() << R"([{"set": "spinnerMosIdPeak", "text": "20"}, {"click": "cancelButton"}])"
+        << QStringList{px + "MosDefaultIdPeak=unwritten"};
+}
+
+void TestModelCreation::brelvonOptions()
+{
+    QFETCH(Args, args);
+    QFETCH(QString, steps);
+    QFETCH(QStringList, options);
+
+    QFile::remove(QDir(vtkit::configDir()).filePath(QStringLiteral("options.ini")));
+    const Answered run = answer(m_engine, "BrelvonOptionsDialog", args, steps.toUtf8());
+    QVERIFY2(run.ok, qPrintable(run.failure));
+    for (const QString& expected : options) {
+        const QString name = expected.section(QLatin1Char('='), 0, 0);
+        bool found = false;
+        const QString value = toQs(sp_GetStringOption(Tocs(name), &found));
+        QCOMPARE(name + QLatin1Char('=') + (found ? value : QStringLiteral("unwritten")), expected);
+    }
 }
 
 QTEST_MAIN(TestModelCreation)

@@ -115,3 +115,11 @@ show call LoopForgeEditPWMDialog '["Carrier", "Outputs"]' \
   '["ePWM U5", "<b>ePWM</b> generator", "Symbol description", "150"]' --answer $d/loopforgepwm.json
 show call CreateDiodeDialog '["10", "1", "100M", "50n", "0.7", "1", "0.9", "10", "100p", "1", "D1N4148"]' \
   --answer $d/creatediode.json
+diode='["1", "0", "1", "100", "25", "1", "3", "1", "1k", "0"]'
+mos='["1", "0", "10", "100", "10", "1", "25", "1", "1Meg", "2", "0", "0.9", "0.1", "100"]'
+jfet='["0", "0", "1", "100", "-10", "1", "25", "1", "1Meg", "0", "0.9", "0.1", "100"]'
+zener='["1", "0", "5m", "25", "3", "1", "1Meg", "0"]'
+bjt='["1", "0", "1", "1", "0"]'
+show call BrelvonOptionsDialog "$diode" "$diode" "$mos" "$mos" "$mos" "$mos" "$jfet" "$jfet" \
+  "$zener" "$zener" "$bjt" "$bjt" '["101", "102", "103", "104", "105", "106"]' \
+  '["Vendor;PSU Controllers|Vendor;Diodes"]' --answer $d/brelvonoptions.json
