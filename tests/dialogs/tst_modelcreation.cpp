@@ -24,6 +24,7 @@ private slots:
     void createDiode();
     void brelvonOptions_data();
     void brelvonOptions();
+    void brelvonOptionsHelp();
 
 private:
     vtkit::Engine m_engine;
@@ -110,7 +111,7 @@ void TestModelCreation::brelvonOptions_data()
     QTest::addColumn<QString>("steps");
     QTest::addColumn<QStringList>("options"); // "name=value" after the call
 
-    const QString ok = R"({"click": "pushButtonOk"}])";
+    const QString ok = R"({"accept": true}])";
     const QString px = QStringLiteral("BRELVONModelExtraction");
     QTest::newRow("values equal to their defaults are written false")
         << optionArgs() << "[" + ok
@@ -140,14 +141,14 @@ void TestModelCreation::brelvonOptions_data()
         << optionArgs({"1", "0", "1", "100", "25", "1", "3", "1", "1k", "0", "1"}) << "[" + ok
         << QStringList{px + "IgbtDebug=1", px + "MosDebug="};
     QTest::newRow("print statements out takes the graph statements with them")
-        << optionArgs() << R"([{"key": "tabWidgetMain", "keys": "Ctrl+Tab"}, {"check": "checkBoxASCIINoPrint", "on": true}, )" + ok
+        << optionArgs() << R"([{"choose": "tabWidgetMain", "text": "ASCII Model/Symbol Creation"}, {"check": "checkBoxASCIINoPrint", "on": true}, )" + ok
         << QStringList{"BRELVONCreateASCIIModelNoDotPrint=1", "BRELVONCreateASCIIModelNoDotGraph=1"};
     QTest::newRow("a global library without a name is not stored")
-        << optionArgs() << R"([{"key": "tabWidgetMain", "keys": "Ctrl+Tab"}, {"click": "radioButtonSymbolGlobal"}, )" + ok
+        << optionArgs() << R"([{"choose": "tabWidgetMain", "text": "ASCII Model/Symbol Creation"}, {"click": "radioButtonSymbolGlobal"}, )" + ok
         << QStringList{"BRELVONCreateASCIIModelSymbolLibrary="};
     QTest::newRow("a global library and another category are stored")
         << optionArgs()
-        << R"([{"key": "tabWidgetMain", "keys": "Ctrl+Tab"}, {"click": "radioButtonSymbolGlobal"}, {"set": "editBoxSymbolLibFileName", "text": "/lib/mine.sxslb"},
+        << R"([{"choose": "tabWidgetMain", "text": "ASCII Model/Symbol Creation"}, {"click": "radioButtonSymbolGlobal"}, {"set": "editBoxSymbolLibFileName", "text": "/lib/mine.sxslb"},
               {"set": "comboBoxSymbolCategory", "text": "Vendor;Diodes"}, )" + ok
         << QStringList{"BRELVONCreateASCIIModelSymbolLibrary=/lib/mine.sxslb",
                        "BRELVONCreateASCIIModelSymbolCategory=Vendor;Diodes"};
@@ -171,6 +172,30 @@ void TestModelCreation::brelvonOptions()
         const QString value = toQs(sp_GetStringOption(Tocs(name), &found));
         QCOMPARE(name + QLatin1Char('=') + (found ? value : QStringLiteral("unwritten")), expected);
     }
+}
+
+// The help button follows the topic of the device tab, and the symbol page
+// has none.
+void TestModelCreation::brelvonOptionsHelp()
+{
+    Args args = optionArgs();
+    args[12] = strings({"10", "", "-1"});
+    const Answered run = answer(m_engine, "BrelvonOptionsDialog", args, R"([
+        {"inspect": "helpButton"}, {"click": "helpButton"},
+        {"choose": "tabWidgetModelExtract", "text": "Diode"}, {"inspect": "helpButton"},
+        {"choose": "tabWidgetModelExtract", "text": "IGBT"}, {"inspect": "helpButton"},
+        {"choose": "tabWidgetModelExtract", "text": "BJT"}, {"inspect": "helpButton"},
+        {"choose": "tabWidgetModelExtract", "text": "MOSFET"},
+        {"choose": "tabWidgetMain", "index": 1}, {"inspect": "helpButton"},
+        {"cancel": true}])");
+    QVERIFY2(run.ok, qPrintable(run.failure));
+    QStringList hidden;
+    for (const QJsonObject& line : run.eventsOf(QStringLiteral("inspect")))
+        hidden << line.value(QLatin1String("hidden")).toVariant().toString();
+    QCOMPARE(hidden, (QStringList{"false", "true", "true", "true", "true"}));
+    const QList<QJsonObject> help = run.eventsOf(QStringLiteral("help"));
+    QCOMPARE(help.size(), 1);
+    QCOMPARE(help.first().value(QLatin1String("help")).toString(), QStringLiteral("10"));
 }
 
 QTEST_MAIN(TestModelCreation)
