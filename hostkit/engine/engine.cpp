@@ -1,4 +1,5 @@
 #include "engine.h"
+#include "graphcapture.h"
 
 #include "dialogs.h"
 #include "pwldialog.h"
@@ -236,6 +237,7 @@ Engine::Engine() : d(new Private)
 {
     d->hostFunctions["XfromY"] = &xFromY;
     d->hostFunctions["PWLDialog"] = &pwlDialog;
+    d->hostFunctions["GraphImageCapture"] = &graphImageCapture;
     d->dialogRunner = &runBoundDialog;
 }
 

@@ -83,8 +83,8 @@ public:
 
     CallResult call(const std::string& name, const std::vector<ScriptValue>& args);
 
-    // Replaces any function of that name; XfromY and PWLDialog (pwldialog.h)
-    // are registered from the start.
+    // Replaces any function of that name; XfromY, PWLDialog (pwldialog.h)
+    // and GraphImageCapture (graphcapture.h) are registered from the start.
     void registerHostFunction(const std::string& name, HostFunction fn);
     void removeHostFunction(const std::string& name);
 

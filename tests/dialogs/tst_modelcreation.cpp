@@ -4,7 +4,9 @@
 #include "hostsupport.h"
 #include "kitsupport.h"
 
+#include <QClipboard>
 #include <QDir>
+#include <QGuiApplication>
 #include <QFile>
 
 #include <QTemporaryDir>
@@ -12,6 +14,7 @@
 
 using namespace dialogtest;
 Q_DECLARE_METATYPE(Args)
+Q_DECLARE_METATYPE(std::vector<double>)
 
 class TestModelCreation : public QObject {
     Q_OBJECT
@@ -25,6 +28,8 @@ private slots:
     void brelvonOptions_data();
     void brelvonOptions();
     void brelvonOptionsHelp();
+    void powerInductor_data();
+    void powerInductor();
 
 private:
     vtkit::Engine m_engine;
@@ -196,6 +201,122 @@ void TestModelCreation::brelvonOptionsHelp()
     const QList<QJsonObject> help = run.eventsOf(QStringLiteral("help"));
     QCOMPARE(help.size(), 1);
     QCOMPARE(help.first().value(QLatin1String("help")).toString(), QStringLiteral("10"));
+}
+
+// --------------------------------------------------- CreatePowerInductorModel
+
+namespace {
+
+// The entries of a result before the table: what an untouched dialog gives.
+QStringList inductorHead(const QString& shunt = QString(), const QString& rows = QStringLiteral("0"))
+{
+    return {"SeriesR", "0", "ShuntR", shunt.isNull() ? QStringLiteral("0") : shunt, "SaveTo",
+            "SchematicSymbol", "DeviceName", "", "InitialCondition", "0", "0", "Smoothing", "0",
+            "DataTable", rows};
+}
+
+// A "GraphImageCapture" that answers with these values, or fails when empty.
+vtkit::HostFunction capture(std::vector<double> values)
+{
+    return [values](const ArgRecord*, int, ScriptValue& result, int& error) {
+        error = values.empty() ? 1 : 0;
+        result = ScriptValue::fromReals(values);
+        return !values.empty();
+    };
+}
+
+} // namespace
+
+void TestModelCreation::powerInductor_data()
+{
+    QTest::addColumn<QStringList>("keys");
+    QTest::addColumn<QString>("clipboard");
+    QTest::addColumn<std::vector<double>>("captured");
+    QTest::addColumn<QString>("steps");
+    QTest::addColumn<QStringList>("expected"); // empty: no result
+    QTest::addColumn<QString>("message");      // text of a message box the call showed
+
+    const QString ok = R"({"accept": true}])";
+    const std::vector<double> none;
+    QTest::newRow("untouched: fifteen entries, the empty rows gone")
+        << QStringList{} << "" << none << "[" + ok << inductorHead() << "";
+    QTest::newRow("a shunt of 0 is infinite and stays 0")
+        << QStringList{"ShuntR", "0"} << "" << none << R"([{"inspect": "editbox_ShuntR"}, )" + ok
+        << inductorHead() << "";
+    QTest::newRow("keys in any case, a former result passed back")
+        << (inductorHead(QStringLiteral("1Meg"), QStringLiteral("2")) + QStringList{"1", "2u", "3", "1u"})
+               .replaceInStrings(QStringLiteral("SeriesR"), QStringLiteral("seriesr"))
+        << "" << none << "[" + ok
+        << inductorHead(QStringLiteral("1Meg"), QStringLiteral("2")) + QStringList{"1", "2e-06", "3", "1e-06"}
+        << "";
+    QTest::newRow("a key without its values is skipped")
+        << QStringList{"Smoothing", "2", "InitialCondition", "1"} << "" << none << "[" + ok
+        << [] { QStringList head = inductorHead(); head[12] = "2"; return head; }() << "";
+    QTest::newRow("a negative row count leaves the table alone")
+        << QStringList{"DataTable", "-3", "1", "2"} << "" << none << "[" + ok << inductorHead() << "";
+    QTest::newRow("a huge row count is cut to the pairs that came")
+        << QStringList{"DataTable", "1e9", "1", "2"} << "" << none << "[" + ok
+        << inductorHead(QString(), QStringLiteral("1")) + QStringList{"1", "2"} << "";
+    QTest::newRow("paste of seven numbers makes three rows")
+        << QStringList{"DataTable", "5", "1", "1", "2", "2", "3", "3", "4", "4", "5", "5"}
+        << "(0, 1u) (1,0.9u)\n2 0.5u\t7" << none << R"([{"click": "pushbutton_Paste"}, )" + ok
+        << inductorHead(QString(), QStringLiteral("3")) + QStringList{"0", "1u", "1", "0.9u", "2", "0.5u"}
+        << "";
+    QTest::newRow("delete empties the selected cells, Ok drops the rows")
+        << QStringList{"DataTable", "2", "1", "1", "2", "2"} << "" << none
+        << R"([{"key": "tableWidget", "keys": "Ctrl+A"}, {"key": "tableWidget", "keys": "Delete"}, )" + ok
+        << inductorHead() << "";
+    QTest::newRow("a row with one value stops Ok")
+        << QStringList{"DataTable", "2", "1", "1", "2", "2"} << "" << none
+        << R"([{"cell": "tableWidget", "row": 2, "column": 0, "text": "5"}, {"accept": true},
+              {"message": "OK"}, {"cancel": true}])"
+        << QStringList{}
+        << "There is a row with an empty cell in the data table. Cannot complete while this cell is empty.";
+    QTest::newRow("points from an image")
+        << QStringList{} << "" << std::vector<double>{2, 0.5, 4, 8e-6, 2e-6}
+        << R"([{"click": "pushbutton_LoadFromImage"}, )" + ok
+        << inductorHead(QString(), QStringLiteral("2")) + QStringList{"0.5", "8e-06", "4", "2e-06"} << "";
+    QTest::newRow("an image result that claims more points than it has")
+        << QStringList{} << "" << std::vector<double>{100, 1, 2, 3, 4}
+        << R"([{"click": "pushbutton_LoadFromImage"}, )" + ok
+        << inductorHead(QString(), QStringLiteral("2")) + QStringList{"1", "3", "2", "4"} << "";
+    QTest::newRow("a failed capture leaves the table")
+        << QStringList{"DataTable", "1", "1", "2"} << "" << none
+        << R"([{"click": "pushbutton_LoadFromImage"}, )" + ok
+        << inductorHead(QString(), QStringLiteral("1")) + QStringList{"1", "2"} << "";
+    QTest::newRow("cancel gives nothing")
+        << QStringList{"DataTable", "1", "1", "2"} << "" << none << R"([{"cancel": true}])" << QStringList{}
+        << "";
+}
+
+void TestModelCreation::powerInductor()
+{
+    QFETCH(QStringList, keys);
+    QFETCH(QString, clipboard);
+    QFETCH(std::vector<double>, captured);
+    QFETCH(QString, steps);
+    QFETCH(QStringList, expected);
+    QFETCH(QString, message);
+
+    QGuiApplication::clipboard()->setText(clipboard);
+    m_engine.registerHostFunction("GraphImageCapture", capture(captured));
+    const Answered run = answer(m_engine, "CreatePowerInductorModel",
+                                keys.isEmpty() ? Args{} : stringArgs({keys}), steps.toUtf8());
+    m_engine.removeHostFunction("GraphImageCapture");
+    QVERIFY2(run.ok, qPrintable(run.failure));
+    QCOMPARE(run.result.hasResult, !expected.isEmpty());
+    if (!expected.isEmpty())
+        QCOMPARE(textsOf(run.result), expected);
+    const QList<QJsonObject> boxes = run.eventsOf(QStringLiteral("messageBox"));
+    QCOMPARE(boxes.isEmpty(), message.isEmpty());
+    if (!message.isEmpty()) {
+        const QJsonObject box = boxes.first().value(QLatin1String("messageBox")).toObject();
+        QCOMPARE(box.value(QLatin1String("title")).toString(), QStringLiteral("Data Error"));
+        QCOMPARE(box.value(QLatin1String("text")).toString(), message);
+    }
+    const QJsonObject shunt = run.inspected(QStringLiteral("editbox_ShuntR"));
+    if (!shunt.isEmpty())
+        QCOMPARE(shunt.value(QLatin1String("enabled")).toBool(), false);
 }
 
 QTEST_MAIN(TestModelCreation)
