@@ -123,3 +123,5 @@ bjt='["1", "0", "1", "1", "0"]'
 show call BrelvonOptionsDialog "$diode" "$diode" "$mos" "$mos" "$mos" "$mos" "$jfet" "$jfet" \
   "$zener" "$zener" "$bjt" "$bjt" '["101", "102", "103", "104", "105", "106"]' \
   '["Vendor;PSU Controllers|Vendor;Diodes"]' --answer $d/brelvonoptions.json
+show call CreatePowerInductorModel '["SeriesR", "12m", "ShuntR", "0", "Smoothing", "2", "DataTable", "6",
+  "0", "10u", "2", "9.8u", "4", "9.1u", "6", "7.5u", "8", "5u", "10", "3.2u"]' --answer $d/powerinductor.json
