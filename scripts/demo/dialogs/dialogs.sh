@@ -125,3 +125,4 @@ show call BrelvonOptionsDialog "$diode" "$diode" "$mos" "$mos" "$mos" "$mos" "$j
   '["Vendor;PSU Controllers|Vendor;Diodes"]' --answer $d/brelvonoptions.json
 show call CreatePowerInductorModel '["SeriesR", "12m", "ShuntR", "0", "Smoothing", "2", "DataTable", "6",
   "0", "10u", "2", "9.8u", "4", "9.1u", "6", "7.5u", "8", "5u", "10", "3.2u"]' --answer $d/powerinductor.json
+show call CreatePowerInductorModel --answer $d/graphcapture.json
