@@ -413,7 +413,8 @@ private:
 // "reject" rejects it; empty on an ok button (named okButton, okButton1,
 // okButton2 or okbutton) accepts it, unless the dialog connected clicked()
 // itself to check first; any other button only emits clicked(). OkButton
-// and CancelButton always accept and reject.
+// accepts in the same way (a dialog that connected it checks first), and
+// CancelButton always rejects.
 class VT_WIDGETS_API PushButton : public QPushButton, public VT_FunctionDef {
     Q_OBJECT
     Q_PROPERTY(int argIndex READ argIndex WRITE setArgIndex)

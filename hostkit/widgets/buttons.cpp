@@ -41,9 +41,13 @@ void PushButton::endDialog()
     auto* dialog = qobject_cast<QDialog*>(window());
     if (!dialog)
         return;
+    // A dialog that connected the ok button itself checks its form first
+    // and accepts when it is content; the button's own connection is one.
+    const bool dialogDecides = receivers(SIGNAL(clicked(bool))) > 1;
     switch (m_ending) {
     case Ending::Accept:
-        dialog->accept();
+        if (!dialogDecides)
+            dialog->accept();
         return;
     case Ending::Reject:
         dialog->reject();
@@ -53,11 +57,8 @@ void PushButton::endDialog()
     }
     if (m_actionText == QLatin1String("reject")) {
         dialog->reject();
-    } else if (acceptsDialog()) {
-        // A dialog that connected the ok button itself checks its form
-        // first and accepts when it is content; the own connection is one.
-        if (receivers(SIGNAL(clicked(bool))) <= 1)
-            dialog->accept();
+    } else if (acceptsDialog() && !dialogDecides) {
+        dialog->accept();
     }
 }
 
