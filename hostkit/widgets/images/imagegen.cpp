@@ -2,6 +2,7 @@
 // argument. Shapes only, no fonts, so the pictures don't depend on the
 // machine that draws them.
 #include "blockimages.h"
+#include "deviceimages.h"
 
 #include <QColor>
 #include <QGuiApplication>
@@ -237,6 +238,8 @@ int main(int argc, char** argv)
     std::vector<Picture> all(std::begin(pictures), std::end(pictures));
     for (const BlockPicture& block : loopForgeBlockPictures())
         all.push_back({block.file, block.size, block.size, block.draw});
+    for (const BlockPicture& device : deviceConfigurationPictures())
+        all.push_back({device.file, device.size, device.size, device.draw});
     for (const Picture& picture : all) {
         QImage image = canvas(picture.width, picture.height);
         {
