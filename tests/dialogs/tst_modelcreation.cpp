@@ -30,6 +30,9 @@ private slots:
     void brelvonOptionsHelp();
     void powerInductor_data();
     void powerInductor();
+    void modelExtraction_data();
+    void modelExtraction();
+    void modelHistory();
 
 private:
     vtkit::Engine m_engine;
@@ -317,6 +320,211 @@ void TestModelCreation::powerInductor()
     const QJsonObject shunt = run.inspected(QStringLiteral("editbox_ShuntR"));
     if (!shunt.isEmpty())
         QCOMPARE(shunt.value(QLatin1String("enabled")).toBool(), false);
+}
+
+// ------------------------------------------------------ ModelExtractionDialog
+
+namespace {
+
+// Descriptors 1 to 3 and 16 name no group: their elements belong to the
+// fixed widgets. Controls are "parameter" + position.
+QStringList extractionParams(bool zener)
+{
+    const QString shortList = zener ? "1 In Zener Avalanche|2 Off|3 Forward Biased"
+                                    : "1 Reverse Biased|2 Forward Biased";
+    QStringList params{":Model", ":-:Model name", ":-:Label", ":-:Configuration",
+                       ":Extracted model:Forward current:1:0:A:real",
+                       ":Extracted model:Number of Segments:2:0::list:2 Segments|3 Segments",
+                       ":Extracted model:Initial Condition:3:0::list:" + shortList};
+    for (const char* diode : {"A", "B", "C", "D"})
+        params << QStringLiteral(":Extracted model:Initial Condition (Diode %1):4:0::list:").arg(diode) + shortList;
+    params << ":User-defined model:Forward voltage:1:0:V:real"
+           << ":User-defined model:Forward resistance:2:0:__Ohms__:real"
+           << ":User-defined model:Zener voltage:3:0:V:real"
+           << ":User-defined model:Series resistance:4:0:__Ohms__:real"
+           << ":User-defined model:Transit time:5:0:s:real" << ":-:Count"
+           << ":User-defined model:Capacitance:6:0:F:real";
+    return params;
+}
+
+Args extractionArgs(const QString& kind, const QString& type, const QString& configuration,
+                    const QString& count = "2", const QString& condition = "2 Forward Biased",
+                    const QString& model = "'1N4007'", const QString& label = "'Rectifier'")
+{
+    const bool zener = kind == QLatin1String("zener");
+    return stringArgs({extractionParams(zener),
+                       {type, model, label, configuration, "1", "2 Segments", condition, condition,
+                        condition, condition, condition, "0.7", "10m", "5.1", "1m", "5u", count, "15p"},
+                       {kind, "", "headline", "Diode", "", "", "12"},
+                       {"1N4148", "1N4007", "MUR160", "1n914?"}});
+}
+
+} // namespace
+
+void TestModelCreation::modelExtraction_data()
+{
+    QTest::addColumn<Args>("args");
+    QTest::addColumn<QString>("steps");
+    QTest::addColumn<QStringList>("facts");    // "object.field=value" of the inspect lines, in order
+    QTest::addColumn<QStringList>("elements"); // "index=value" of the result; empty: no result
+    QTest::addColumn<QString>("message");      // title of a message box, if one is expected
+
+    const QString ok = R"({"accept": true}])";
+    QTest::newRow("object name, title and Ok by kind")
+        << extractionArgs("D", "0", "0") << R"([{"inspect": ""}, {"inspect": "okButton"}, )" + ok
+        << QStringList{".objectName=ModelExtractionDiodeDialog", ".title=Extract Diode", "okButton.text=Extract"}
+        << QStringList{"0=0", "1='1N4007'", "2='Rectifier'", "3=0"} << "";
+    QTest::newRow("a bipolar transistor is translated and has no configuration")
+        << extractionArgs("bjt", "0", "0")
+        << R"([{"inspect": ""}, {"inspect": "radioGroupConfigDiode"}, {"inspect": "radioButtonExtract"}, )" + ok
+        << QStringList{".objectName=ModelExtractionBjtDialog", ".title=Translate Diode",
+                       "radioGroupConfigDiode.hidden=true", "radioButtonExtract.text=Translated"}
+        << QStringList{"1='1N4007'", "3="} << "";
+    QTest::newRow("an unknown kind keeps the default name")
+        << extractionArgs("triac", "1", "0") << R"([{"inspect": ""}, )" + ok
+        << QStringList{".objectName=ModelExtractionDialog"} << QStringList{"0=1"} << "";
+    QTest::newRow("two to three segments keeps forward biased")
+        << extractionArgs("d", "0", "0")
+        << R"([{"choose": "parameter5", "text": "3 Segments"}, {"inspect": "parameter6"},
+              {"choose": "parameter6", "text": "2 Slightly Forward Biased"},
+              {"choose": "parameter5", "text": "2 Segments"}, {"inspect": "parameter6"}, )" + ok
+        << QStringList{"parameter6.text=3 Forward Biased", "parameter6.text=2 Forward Biased"}
+        << QStringList{"5=2 Segments", "6=2 Forward Biased"} << "";
+    QTest::newRow("zener conditions between the short and the long list")
+        << extractionArgs("zener", "0", "0", "2", "2 Off")
+        << R"([{"choose": "parameter5", "text": "3 Segments"}, {"inspect": "parameter6"},
+              {"choose": "parameter6", "text": "4 Slightly Forward Biased"},
+              {"choose": "parameter5", "text": "2 Segments"}, {"inspect": "parameter6"}, )" + ok
+        << QStringList{"parameter6.text=3 Off", "parameter6.text=3 Forward Biased"}
+        << QStringList{"6=3 Forward Biased"} << "";
+    QTest::newRow("back-to-back zeners: no forward parameters, no count")
+        << extractionArgs("zener", "1", "1")
+        << R"([{"inspect": "parameter11"}, {"inspect": "parameter12"}, {"inspect": "extraSpinner"}, )" + ok
+        << QStringList{"parameter11.enabled=false", "parameter12.enabled=false", "extraSpinner.hidden=true"}
+        << QStringList{"3=1", "16="} << "";
+    QTest::newRow("parallel and series remember their counts")
+        << extractionArgs("d", "0", "1", "4")
+        << R"([{"inspect": "extraSpinner"}, {"click": "radioButton3"}, {"inspect": "extraSpinner"},
+              {"set": "extraSpinner", "text": "5"}, {"click": "radioButton2"}, {"inspect": "extraSpinner"},
+              {"click": "radioButton3"}, )" + ok
+        << QStringList{"extraSpinner.text=4", "extraSpinner.text=2", "extraSpinner.text=4"}
+        << QStringList{"3=2", "16=5"} << "";
+    QTest::newRow("a bridge has an initial condition per diode")
+        << extractionArgs("d", "0", "3", "0.02")
+        << R"([{"inspect": "parameter6"}, {"inspect": "parameter7"}, {"inspect": "extraSpinner"}, )" + ok
+        << QStringList{"parameter6.hidden=true", "parameter7.hidden=false", "extraSpinner.text=0.02"}
+        << QStringList{"3=3", "16=0.02"} << "";
+    QTest::newRow("a model that differs only in case is installed")
+        << extractionArgs("d", "0", "0", "2", "2 Forward Biased", "'mur160'") << "[" + ok << QStringList{}
+        << QStringList{"1='mur160'"} << "";
+    QTest::newRow("question marks are the names' own")
+        << extractionArgs("d", "0", "0", "2", "2 Forward Biased", "1N914?") << "[" + ok << QStringList{}
+        << QStringList{"1='1N914?'"} << "";
+    QTest::newRow("a model that isn't installed")
+        << extractionArgs("d", "0", "0", "2", "2 Forward Biased", "'BAV99'")
+        << R"([{"accept": true}, {"message": "OK"}, {"cancel": true}])" << QStringList{} << QStringList{}
+        << "Model BAV99 not found in libraries";
+    QTest::newRow("no model at all")
+        << extractionArgs("d", "0", "0", "2", "2 Forward Biased", "")
+        << R"([{"accept": true}, {"message": "OK"}, {"cancel": true}])" << QStringList{} << QStringList{}
+        << "No Model selected";
+    QTest::newRow("a user-defined model needs a label")
+        << extractionArgs("d", "1", "0", "2", "2 Forward Biased", "'BAV99'", "")
+        << R"([{"accept": true}, {"message": "OK"}, {"cancel": true}])" << QStringList{} << QStringList{}
+        << "Need User label for this device!";
+    QTest::newRow("a user-defined model isn't validated, both names come quoted")
+        << extractionArgs("d", "1", "0", "2", "2 Forward Biased", "'BAV99'", "")
+        << R"([{"set": "editBoxUser0", "text": "my diode"}, {"inspect": "editBoxUser0"}, )" + ok
+        << QStringList{"editBoxUser0.text=my_diode"} << QStringList{"1='BAV99'", "2='my_diode'"} << "";
+    QTest::newRow("the picker narrows to one name")
+        << extractionArgs("d", "0", "0")
+        << R"([{"click": "toolButtonSelectDevice"}, {"wait": "ModelExtractionNewDeviceDialog"},
+              {"set": "searchEdit", "text": "4148"}, {"accept": true}, {"wait": "ModelExtractionDiodeDialog"}, )" + ok
+        << QStringList{} << QStringList{"1='1N4148'"} << "";
+    QTest::newRow("the picker needs a selection")
+        << extractionArgs("d", "0", "0")
+        << R"([{"click": "toolButtonSelectDevice"}, {"wait": "ModelExtractionNewDeviceDialog"},
+              {"set": "searchEdit", "text": "?"}, {"inspect": "listBoxModels"},
+              {"set": "searchEdit", "text": "zzz"}, {"accept": true},
+              {"message": "OK"}, {"cancel": true}, {"wait": "ModelExtractionDiodeDialog"}, )" + ok
+        << QStringList{"listBoxModels.items=1n914?"} << QStringList{"1='1N4007'"} << "No device selected!";
+}
+
+void TestModelCreation::modelExtraction()
+{
+    QFETCH(Args, args);
+    QFETCH(QString, steps);
+    QFETCH(QStringList, facts);
+    QFETCH(QStringList, elements);
+    QFETCH(QString, message);
+
+    const Answered run = answer(m_engine, "ModelExtractionDialog", args, steps.toUtf8());
+    QVERIFY2(run.ok, qPrintable(run.failure));
+    // Facts in order: each names the next inspect line of its object, and
+    // facts in a row about one object read the same line.
+    const QList<QJsonObject> lines = run.eventsOf(QStringLiteral("inspect"));
+    QStringList seen;
+    int line = -1;
+    QString lastObject;
+    QStringList fieldsRead;
+    for (const QString& fact : facts) {
+        const QString key = fact.section(QLatin1Char('='), 0, 0);
+        const QString object = key.section(QLatin1Char('.'), 0, 0);
+        const QString field = key.section(QLatin1Char('.'), 1);
+        if (line < 0 || object != lastObject || fieldsRead.contains(field)) {
+            do
+                ++line;
+            while (line < lines.size() && lines[line].value(QLatin1String("inspect")).toString() != object);
+            fieldsRead.clear();
+        }
+        lastObject = object;
+        fieldsRead << field;
+        const QJsonValue value = lines.value(line).value(field);
+        seen << key + QLatin1Char('=')
+                    + (value.isArray() ? value.toVariant().toStringList().join(QLatin1Char('|'))
+                                       : value.toVariant().toString());
+    }
+    QCOMPARE(seen, facts);
+    QCOMPARE(run.result.hasResult, !elements.isEmpty());
+    const QStringList result = textsOf(run.result);
+    for (const QString& element : elements) {
+        const int index = element.section(QLatin1Char('='), 0, 0).toInt();
+        QCOMPARE(QString::number(index) + QLatin1Char('=') + result.value(index), element);
+    }
+    const QList<QJsonObject> boxes = run.eventsOf(QStringLiteral("messageBox"));
+    QCOMPARE(boxes.isEmpty(), message.isEmpty());
+    if (!message.isEmpty())
+        QCOMPARE(boxes.first().value(QLatin1String("messageBox")).toObject().value(QLatin1String("title")).toString(),
+                 message);
+}
+
+// The history keeps the model just used in front, as many entries as the
+// option allows, and only when the option doesn't forbid it.
+void TestModelCreation::modelHistory()
+{
+    Args args = extractionArgs("d", "0", "0", "2", "2 Forward Biased", "'1N4148'");
+    args[2] = strings({"d", "", "", "Diode", "a;b;c;1N4148;d;e;f;g;h;i", "TestHistory"});
+    struct Case {
+        const char* size;
+        const char* write; // nullptr: option absent
+        const char* expected;
+    } cases[] = {
+        {"5", nullptr, "1N4148;a;b;c;d"},
+        {"0", nullptr, "1N4148;a;b;c;d;e;f;g;h;i"},
+        {"5", "0", "unwritten"},
+    };
+    for (const Case& c : cases) {
+        QFile::remove(QDir(vtkit::configDir()).filePath(QStringLiteral("options.ini")));
+        QFile::remove(QDir(vtkit::configDir()).filePath(QStringLiteral("config.ini")));
+        sp_WriteOption("BRELVONModelExtractionNumModelHistory", c.size);
+        if (c.write)
+            sp_WriteOption("BRELVONModelExtractionWriteModelHistory", c.write);
+        const Answered run = answer(m_engine, "ModelExtractionDialog", args, R"([{"accept": true}])");
+        QVERIFY2(run.ok, qPrintable(run.failure));
+        char buffer[512] = {};
+        const bool found = cfgman_GetConfigSetting("DialogPreferences", "TestHistory", buffer, sizeof buffer, false);
+        QCOMPARE(found ? QString::fromLatin1(buffer) : QStringLiteral("unwritten"), QLatin1String(c.expected));
+    }
 }
 
 QTEST_MAIN(TestModelCreation)

@@ -126,3 +126,6 @@ show call BrelvonOptionsDialog "$diode" "$diode" "$mos" "$mos" "$mos" "$mos" "$j
 show call CreatePowerInductorModel '["SeriesR", "12m", "ShuntR", "0", "Smoothing", "2", "DataTable", "6",
   "0", "10u", "2", "9.8u", "4", "9.1u", "6", "7.5u", "8", "5u", "10", "3.2u"]' --answer $d/powerinductor.json
 show call CreatePowerInductorModel --answer $d/graphcapture.json
+. scripts/demo/diode-extraction.sh
+show call ModelExtractionDialog "$extract_params" "$extract_values" "$extract_info" "$extract_models" \
+  --answer $d/modelextraction.json
