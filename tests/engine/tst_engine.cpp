@@ -84,6 +84,7 @@ const QStringList implemented = {
     "EditParameterisedOpampDialog",
     "TabValueDialog", "LoopForgeEditComponentDialog", "LoopForgeEditPWMDialog",
     "RadioSelectWidgetStackDialog",
+    "CreateDiodeDialog", "CreatePowerInductorModel", "ModelExtractionDialog", "BrelvonOptionsDialog",
 };
 
 ScriptValue strings(std::vector<std::string> s)
