@@ -348,10 +348,11 @@ void ModelExtractionDialog::showEvent(QShowEvent* event)
 
 void ModelExtractionDialog::populateWidgets()
 {
-    using namespace parameterpages;
+    using parameterpages::ParameterDescriptor;
+    using parameterpages::PlacedParameter;
     if (m_args[ArgParams].isEmpty() || m_args[ArgValues].isEmpty())
         return;
-    const ParameterPageSpec spec(m_args[ArgParams], m_args[ArgValues]);
+    const parameterpages::ParameterPageSpec spec(m_args[ArgParams], m_args[ArgValues]);
     auto* extractGrid = qobject_cast<QGridLayout*>(m_ui->groupBoxExtract->layout());
     auto* userGrid = qobject_cast<QGridLayout*>(m_ui->groupBoxUser->layout());
     for (QGridLayout* grid : {extractGrid, userGrid})
@@ -360,7 +361,7 @@ void ModelExtractionDialog::populateWidgets()
     m_groups.storeGroup(QLatin1String(kExtractedGroup), m_ui->groupBoxExtract, extractGrid);
     m_groups.storeGroup(QLatin1String(kUserGroup), m_ui->groupBoxUser, userGrid);
 
-    PlacementRules rules;
+    parameterpages::PlacementRules rules;
     rules.firstDescriptor = 1;
     rules.nestedGroupsFirst = true;
     rules.groupKeyWithTab = false;
@@ -388,7 +389,7 @@ void ModelExtractionDialog::populateWidgets()
             if (d.group.compare(QLatin1String(kExtractedGroup), Qt::CaseInsensitive) == 0)
                 spinner->setAllowExpressions(false);
     };
-    placeParameters(spec, m_groups, rules);
+    parameterpages::placeParameters(spec, m_groups, rules);
     // Keeps the user-defined page from collapsing around short parameters.
     if (userGrid)
         userGrid->addItem(new QSpacerItem(20, 0, QSizePolicy::Fixed, QSizePolicy::Expanding), 100, 0);

@@ -16,9 +16,11 @@
 // ":/shift_right_32.png", ":/stop.png", ":/options.png",
 // ":/qmessagebox-warn_transparent_bg.png", ":/qmessagebox-quest_transparent_bg.png",
 // ":/qmessagebox-info_transparent_bg.png", ":/16x16_rightarrow_transparent_bg.png",
-// ":/threshold_hysteresis.png" and the LoopForge block pictures
-// (":/adder_32_0.png" ... ":/epwm_beta1.png", see images/blockimages.cpp) as
-// it loads.
+// ":/threshold_hysteresis.png", the LoopForge block pictures
+// (":/adder_32_0.png" ... ":/epwm_beta1.png", see images/blockimages.cpp) and
+// the diode configurations and tool tip pictures of model extraction
+// (":/single_1p0.png" ... ":/select_button_mouse_cursor_transparent.png", see
+// images/deviceimages.cpp) as it loads.
 #pragma once
 
 #include <QCheckBox>

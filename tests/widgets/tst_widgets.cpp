@@ -121,30 +121,33 @@ void TestWidgets::formBindsAndOkIsDefault()
 void TestWidgets::resourcesRegistered_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::newRow("up arrow") << ":/16x16_uparrow_transparent_bg.png";
-    QTest::newRow("down arrow") << ":/16x16_downarrow_transparent_bg.png";
-    QTest::newRow("rising edge") << ":/16x16_rising_edge_no_frame.png";
-    QTest::newRow("falling edge") << ":/16x16_falling_edge_no_frame.png";
-    QTest::newRow("shift left") << ":/shift_left_32.png";
-    QTest::newRow("shift right") << ":/shift_right_32.png";
-    QTest::newRow("stop") << ":/stop.png";
-    QTest::newRow("options") << ":/options.png";
-    QTest::newRow("warn") << ":/qmessagebox-warn_transparent_bg.png";
-    QTest::newRow("quest") << ":/qmessagebox-quest_transparent_bg.png";
-    QTest::newRow("info") << ":/qmessagebox-info_transparent_bg.png";
-    QTest::newRow("adder") << ":/adder_32_0.png";
-    QTest::newRow("divider symbol d") << ":/divider_32_3.png";
-    QTest::newRow("multiplexer") << ":/mux_32_x_4.png";
-    QTest::newRow("clock breakout") << ":/global_clock_breakout.png";
-    QTest::newRow("pwm") << ":/epwm_beta1.png";
+    QTest::addColumn<int>("size");
+    QTest::newRow("up arrow") << ":/16x16_uparrow_transparent_bg.png" << 16;
+    QTest::newRow("down arrow") << ":/16x16_downarrow_transparent_bg.png" << 16;
+    QTest::newRow("rising edge") << ":/16x16_rising_edge_no_frame.png" << 16;
+    QTest::newRow("falling edge") << ":/16x16_falling_edge_no_frame.png" << 16;
+    QTest::newRow("shift left") << ":/shift_left_32.png" << 64;
+    QTest::newRow("shift right") << ":/shift_right_32.png" << 64;
+    QTest::newRow("stop") << ":/stop.png" << 32;
+    QTest::newRow("options") << ":/options.png" << 32;
+    QTest::newRow("warn") << ":/qmessagebox-warn_transparent_bg.png" << 32;
+    QTest::newRow("quest") << ":/qmessagebox-quest_transparent_bg.png" << 32;
+    QTest::newRow("info") << ":/qmessagebox-info_transparent_bg.png" << 32;
+    QTest::newRow("adder") << ":/adder_32_0.png" << 64;
+    QTest::newRow("divider symbol d") << ":/divider_32_3.png" << 64;
+    QTest::newRow("multiplexer") << ":/mux_32_x_4.png" << 64;
+    QTest::newRow("clock breakout") << ":/global_clock_breakout.png" << 64;
+    QTest::newRow("pwm") << ":/epwm_beta1.png" << 64;
+    // Diode configurations and the tool tip pictures of model extraction.
+    QTest::newRow("bridge") << ":/bridge_1p0.png" << 48;
+    QTest::newRow("back-to-back zeners") << ":/zener_dual_clamp_1p0.png" << 48;
+    QTest::newRow("combo box pointer") << ":/combo_box_mouse_cursor_transparent.png" << 64;
 }
 
 void TestWidgets::resourcesRegistered()
 {
     QFETCH(QString, name);
-    // LoopForge block pictures (the shifts among them) are 64 pixels.
-    const bool block = name.contains("_32") || name.contains("clock") || name.contains("epwm");
-    const int size = name.contains("16x16") ? 16 : block ? 64 : 32;
+    QFETCH(int, size);
     const QPixmap pixmap(name);
     QCOMPARE(pixmap.size(), QSize(size, size));
     QVERIFY(pixmap.hasAlpha());
@@ -618,7 +621,9 @@ void TestWidgets::pushButtonEndsDialog_data()
     QTest::newRow("other button") << "PushButton" << "applyButton" << "" << false << "open";
     QTest::newRow("Ok-like name is not enough") << "PushButton" << "pushButtonOk" << "" << false << "open";
     QTest::newRow("unknown action") << "PushButton" << "okButton" << "apply" << false << "open";
-    QTest::newRow("OkButton") << "OkButton" << "anyName" << "" << true << "accept";
+    QTest::newRow("OkButton") << "OkButton" << "anyName" << "" << false << "accept";
+    // A form that checks its fields first decides itself, as with PushButton.
+    QTest::newRow("OkButton with own check") << "OkButton" << "anyName" << "" << true << "open";
     QTest::newRow("CancelButton") << "CancelButton" << "okButton" << "" << false << "reject";
 }
 
