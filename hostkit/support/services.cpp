@@ -261,15 +261,29 @@ bool sp_ExistFile(const char* path)
 
 namespace {
 
+// The document kinds of the simulator and the extensions of their files,
+// the default first. Extensions in the list carry their dot; the default
+// extension is given without it, as file filters write "*." before it.
 struct KindExtensions {
     const char* kind;
-    const char* extensions[3]; // default first, null-terminated
+    const char* extensions[6]; // null-terminated
 };
 
 const KindExtensions kKinds[] = {
     {"Schematic", {".sxsch", ".sch", nullptr}},
-    {"Component", {".sxcmp", nullptr, nullptr}},
+    {"Component", {".sxcmp", nullptr}},
     {"Symbol", {".sxsym", ".sym", nullptr}},
+    {"Model", {".lib", ".mod", ".model", ".sub", nullptr}},
+    {"Netlist", {".net", ".cir", ".sp", ".spi", nullptr}},
+    {"Graph", {".sxgph", nullptr}},
+    {"Script", {".sxscr", ".txt", nullptr}},
+    {"VerilogA", {".va", ".vams", nullptr}},
+    {"VerilogHDL", {".v", ".vh", ".sv", nullptr}},
+    {"Data", {".dat", ".csv", ".txt", nullptr}},
+    {"Text", {".txt", nullptr}},
+    {"AsciiFileEditor", {".txt", ".log", ".out", ".net", ".cir", nullptr}},
+    {"LogicDef", {".ldf", nullptr}},
+    {"Init", {".ini", nullptr}},
 };
 
 const KindExtensions* findKind(const char* kind)
@@ -284,15 +298,16 @@ const KindExtensions* findKind(const char* kind)
 
 } // namespace
 
-// "Schematic" .sxsch, "Component" .sxcmp, "Symbol" .sxsym; else "".
+// The default extension of a kind without its dot ("Schematic": "sxsch");
+// "" for an unknown kind.
 YString sp_GetVantrellDefaultExtension(const char* kind)
 {
     const KindExtensions* k = findKind(kind);
-    return YString(k ? k->extensions[0] : "");
+    return YString(k ? k->extensions[0] + 1 : "");
 }
 
-// Schematic: .sxsch .sch; Component: .sxcmp; Symbol: .sxsym .sym. The list
-// is emptied first; false (and an empty list) for an unknown kind.
+// All extensions of a kind with their dots, the default first. The list is
+// emptied first; false (and an empty list) for an unknown kind.
 bool sp_GetVantrellFileExtension(const char* kind, YList<YString>* out)
 {
     if (out)
@@ -301,9 +316,8 @@ bool sp_GetVantrellFileExtension(const char* kind, YList<YString>* out)
     if (!k)
         return false;
     if (out)
-        for (const char* e : k->extensions)
-            if (e)
-                out->add(YString(e));
+        for (int i = 0; k->extensions[i]; ++i)
+            out->add(YString(k->extensions[i]));
     return true;
 }
 

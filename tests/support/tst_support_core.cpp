@@ -82,6 +82,7 @@ private slots:
     void help();
     void helpContextId_data();
     void helpContextId();
+    void extensions_data();
     void extensions();
     void filesAndClipboard();
     void callRecord_data();
@@ -485,23 +486,36 @@ void TestSupportCore::helpContextId()
     QCOMPARE(sp_GetHelpContextId(YString(name.constData())), id);
 }
 
+void TestSupportCore::extensions_data()
+{
+    QTest::addColumn<QByteArray>("kind");
+    QTest::addColumn<QByteArray>("defaultExtension");
+    QTest::addColumn<QStringList>("all");
+    QTest::newRow("Schematic") << QByteArray("Schematic") << QByteArray("sxsch")
+                               << QStringList{".sxsch", ".sch"};
+    QTest::newRow("Component") << QByteArray("Component") << QByteArray("sxcmp")
+                               << QStringList{".sxcmp"};
+    QTest::newRow("Symbol") << QByteArray("Symbol") << QByteArray("sxsym")
+                            << QStringList{".sxsym", ".sym"};
+    QTest::newRow("Netlist") << QByteArray("Netlist") << QByteArray("net")
+                             << QStringList{".net", ".cir", ".sp", ".spi"};
+    QTest::newRow("Init") << QByteArray("Init") << QByteArray("ini") << QStringList{".ini"};
+    QTest::newRow("case matters") << QByteArray("schematic") << QByteArray() << QStringList();
+    QTest::newRow("unknown") << QByteArray("Nothing") << QByteArray() << QStringList();
+}
+
 void TestSupportCore::extensions()
 {
-    QCOMPARE(bytes(sp_GetVantrellDefaultExtension("Schematic")), QByteArray(".sxsch"));
-    QCOMPARE(bytes(sp_GetVantrellDefaultExtension("Component")), QByteArray(".sxcmp"));
-    QCOMPARE(bytes(sp_GetVantrellDefaultExtension("Symbol")), QByteArray(".sxsym"));
-    QCOMPARE(bytes(sp_GetVantrellDefaultExtension("Nothing")), QByteArray(""));
-    QCOMPARE(bytes(sp_GetVantrellDefaultExtension(nullptr)), QByteArray(""));
-
+    QFETCH(QByteArray, kind);
+    QFETCH(QByteArray, defaultExtension);
+    QFETCH(QStringList, all);
+    QCOMPARE(bytes(sp_GetVantrellDefaultExtension(kind.constData())), defaultExtension);
     YList<YString> list;
-    QVERIFY(sp_GetVantrellFileExtension("Schematic", &list));
-    QCOMPARE(toList(list), (QStringList{".sxsch", ".sch"}));
-    QVERIFY(sp_GetVantrellFileExtension("Component", &list));
-    QCOMPARE(toList(list), QStringList{".sxcmp"});
-    QVERIFY(sp_GetVantrellFileExtension("Symbol", &list));
-    QCOMPARE(toList(list), (QStringList{".sxsym", ".sym"}));
-    QVERIFY(!sp_GetVantrellFileExtension("Nothing", &list));
-    QVERIFY(list.isEmpty());
+    list.add(YString("stale"));
+    QCOMPARE(sp_GetVantrellFileExtension(kind.constData(), &list), !all.isEmpty());
+    QCOMPARE(toList(list), all);
+    QCOMPARE(bytes(sp_GetVantrellDefaultExtension(nullptr)), QByteArray(""));
+    QVERIFY(!sp_GetVantrellFileExtension(nullptr, nullptr));
 }
 
 void TestSupportCore::filesAndClipboard()
