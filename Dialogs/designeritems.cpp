@@ -92,7 +92,7 @@ void DialogItem::createChildWidgets(QWidget* parent)
 GroupItem::GroupItem(const QString& title, DialogDesigner* designer)
     : DialogItem(GroupItemType, title, kAnywhere, designer)
 {
-    setText(0, treeText("Group: %1", title));
+    setText(0, treeText(QT_TRANSLATE_NOOP("DialogDesigner", "Group: %1"), title));
 }
 
 void GroupItem::createWidget(QWidget* parent)
@@ -116,7 +116,7 @@ void GroupItem::writeXml(QXmlStreamWriter& writer)
 RadioButtonItem::RadioButtonItem(const QString& title, DialogDesigner* designer)
     : DialogItem(RadioButtonItemType, title, kAnywhere, designer)
 {
-    setText(0, treeText("Radio button: %1", title));
+    setText(0, treeText(QT_TRANSLATE_NOOP("DialogDesigner", "Radio button: %1"), title));
 }
 
 void RadioButtonItem::createWidget(QWidget* parent)
@@ -135,7 +135,7 @@ void RadioButtonItem::writeXml(QXmlStreamWriter& writer)
 TabItem::TabItem(const QString& title, DialogDesigner* designer)
     : DialogItem(TabItemType, title, kTopOnly, designer)
 {
-    setText(0, treeText("Tab: %1", title));
+    setText(0, treeText(QT_TRANSLATE_NOOP("DialogDesigner", "Tab: %1"), title));
 }
 
 void TabItem::createWidget(QWidget* parent)
@@ -167,7 +167,7 @@ void TabItem::writeXml(QXmlStreamWriter& writer)
 CheckBoxItem::CheckBoxItem(const QString& title, DialogDesigner* designer)
     : DialogItem(CheckBoxItemType, title, kAnywhere, designer)
 {
-    setText(0, treeText("Check box: %1", title));
+    setText(0, treeText(QT_TRANSLATE_NOOP("DialogDesigner", "Check box: %1"), title));
 }
 
 void CheckBoxItem::createWidget(QWidget* parent)
@@ -187,7 +187,7 @@ SpinBoxItem::SpinBoxItem(const QString& title, const QString& unit, DialogDesign
     : DialogItem(SpinBoxItemType, title, kAnywhere, designer)
     , m_unit(unit)
 {
-    setText(0, treeText("Spin Box: %1", title));
+    setText(0, treeText(QT_TRANSLATE_NOOP("DialogDesigner", "Spin Box: %1"), title));
 }
 
 void SpinBoxItem::createWidget(QWidget* parent)

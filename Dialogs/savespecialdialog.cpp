@@ -9,6 +9,7 @@
 #include <QDialog>
 #include <QDir>
 #include <QFileDialog>
+#include <QLayout>
 
 #include <memory>
 #include <new>
@@ -35,6 +36,10 @@ SaveSpecialDialog::SaveSpecialDialog(QWidget* parent, const char* name)
         setObjectName(QString::fromLatin1(name));
     m_ui->setupUi(this);
     setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
+    // The explanations wrap; the window needs their height at its width,
+    // which the layout's minimum size doesn't tell (longer translations).
+    if (QLayout* l = layout())
+        resize(width(), qMax(height(), l->totalHeightForWidth(width())));
     connect(m_ui->browseButton, &QPushButton::clicked, this,
             &SaveSpecialDialog::browseButton_clicked);
 }

@@ -129,3 +129,16 @@ show call CreatePowerInductorModel --answer $d/graphcapture.json
 . scripts/demo/diode-extraction.sh
 show call ModelExtractionDialog "$extract_params" "$extract_values" "$extract_info" "$extract_models" \
   --answer $d/modelextraction.json
+show call SaveSpecialDialog '["designs/amp_copy.sxsch", "0", "1"]' --answer $d/savespecial.json
+# The first run of the tool fills the histories; the second finds them and
+# proposes the output name from the chosen input.
+twofile_texts='["Flatten Netlist", "Expands the subcircuits of a netlist into one level.", "About",
+  "The input netlist is left as it is.", "Netlist to flatten", "", "Flat netlist", "",
+  "Open the flat netlist when done", "Title line", "Written as the first comment line.", "0", "1200"]'
+twofile_keys='["FlattenIn", "FlattenOut", "FlattenTitle", "FlattenOpen", "Netlist", "Netlist", "file", "_flat"]'
+show call TwoFileSelectionDialog '["scripts/demo/dialogs/amp.net", "build/amp_flat.net", "first pass"]' \
+  "$twofile_texts" "$twofile_keys" --answer accept
+show call TwoFileSelectionDialog '["", "", ""]' "$twofile_texts" "$twofile_keys" \
+  --answer $d/twofileselection.json
+show call DialogDesigner '["<Dialog><Tab title=\"General\"/><Group title=\"Supply\"/><Tab title=\"Advanced\"/></Dialog>"]' \
+  --answer $d/dialogdesigner.json
