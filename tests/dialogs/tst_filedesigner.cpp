@@ -471,6 +471,18 @@ void TestFileDesigner::twoFiles_data()
         << QStringList()
         << QStringList{"in=" + in + ";a;b;c;d;e;f;g;h;i", "out=new.net;old.net",
                        "desc=run 3", "open=0"};
+    QStringList thousands;
+    for (int i = 0; i < 3000; ++i)
+        thousands << QStringLiteral("x%1").arg(i);
+    QTest::newRow("a history of thousands: ten shown, ten kept")
+        << stringArgs({{in}, {}, keys}) << QStringList{"in=" + thousands.join(';')} << accept
+        << in + "|||1"
+        << QStringList{"comboBoxInputFile.items=" + in + "|" + thousands.mid(0, 10).join('|')}
+        << QStringList() << QStringList{"in=" + in + ";" + thousands.mid(0, 9).join(';')};
+    QTest::newRow("a directory passes the host's file test")
+        << stringArgs({{dir, dir + ";b"}, {}, keys}) << QStringList() << accept
+        << dir + "|" + dir + ";b||1" << QStringList() << QStringList()
+        << QStringList{"out=" + dir + ";b"};
     QTest::newRow("element 3 overrides the stored check box")
         << stringArgs({{in, "", "", "1"}, {}, keys}) << QStringList{"open=0"} << accept
         << in + "|||1" << QStringList() << QStringList() << QStringList{"open=1"};
@@ -543,6 +555,11 @@ void TestFileDesigner::designer_data()
         << QStringList() << accept
         << xmlOf("<Dialog><SpinBox title=\"f\" unit=\"\"/><Tab title=\"T\"/></Dialog>")
         << QStringList{"preview=Spin(f|), Tabs{T{}}"} << QStringList() << QStringList();
+    const QString box = QStringLiteral("<CheckBox title=\"c\"/>");
+    QTest::newRow("10 MB of XML: the first items only")
+        << xml("<Dialog>" + box.repeated(500000) + "</Dialog>") << QStringList() << accept
+        << xmlOf("<Dialog>" + box.repeated(designer::kMaxReadItems) + "</Dialog>")
+        << QStringList() << QStringList() << QStringList();
     QTest::newRow("XML broken halfway keeps what came before")
         << xml("<Dialog><CheckBox title='a &amp; &quot;b&quot;'/><Group title=\"g\"><<")
         << QStringList() << accept
