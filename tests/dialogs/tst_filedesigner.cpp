@@ -196,6 +196,24 @@ QStringList messagesOf(const Answered& answered)
     return out;
 }
 
+// "inspect:obj.field=value": a field of the driver's inspect line for obj,
+// an array joined by "|".
+QString inspected(const Answered& answered, const QString& fact)
+{
+    const QString key = fact.mid(8).section(QLatin1Char('='), 0, 0);
+    const QJsonValue v = answered.inspected(key.section(QLatin1Char('.'), 0, -2))
+                             .value(key.section(QLatin1Char('.'), -1));
+    if (v.isArray()) {
+        QStringList parts;
+        for (const QJsonValue& part : v.toArray())
+            parts << part.toString();
+        return parts.join(QLatin1Char('|'));
+    }
+    if (v.isBool())
+        return QVariant(v.toBool()).toString();
+    return v.isNull() || v.isUndefined() ? QStringLiteral("null") : v.toVariant().toString();
+}
+
 QString setting(const QString& key)
 {
     char buffer[4096] = {};
@@ -335,7 +353,8 @@ void TestFileDesigner::check(const char* function)
                                   Tocs(kv.section(QLatin1Char('='), 1)));
     QStringList keys;
     for (const QString& f : facts)
-        keys << f.section(QLatin1Char('='), 0, 0);
+        if (!f.startsWith(QLatin1String("inspect:")))
+            keys << f.section(QLatin1Char('='), 0, 0);
     Recorder recorder(keys);
     const Answered answered = answer(m_engine, function, args, steps.toUtf8());
     if (result.startsWith(QLatin1String("<fails>"))) {
@@ -347,7 +366,11 @@ void TestFileDesigner::check(const char* function)
 
     for (const QString& f : facts) {
         QString values;
-        QVERIFY2(recorder.saw(f, &values), qPrintable(f + QStringLiteral(" but saw ") + values));
+        if (f.startsWith(QLatin1String("inspect:")))
+            QCOMPARE(f.mid(8).section(QLatin1Char('='), 0, 0) + QLatin1Char('=') + inspected(answered, f),
+                     f.mid(8));
+        else
+            QVERIFY2(recorder.saw(f, &values), qPrintable(f + QStringLiteral(" but saw ") + values));
     }
     QCOMPARE(messagesOf(answered), messages);
     const CallResult& r = answered.result;
@@ -434,19 +457,26 @@ void TestFileDesigner::twoFiles_data()
         << QStringList() << QStringList();
     QTest::newRow("texts from argument 1; empty labels hidden; help topic as text")
         << stringArgs({{in, "out.net"}, allTexts}) << QStringList()
-        << R"([{"click": "helpButton"}, {"accept": true}])" << in + "|out.net||1"
-        << QStringList{"windowTitle=Convert", "labelTitle.text=Netlist converter",
-                       "groupBoxTop.title=About", "labelTop.hidden=false",
-                       "groupBoxInput.title=Source", "labelInput.hidden=true",
-                       "labelOutput.text=Written here", "checkbox.text=Open it?",
-                       "groupBoxDescription.hidden=false", "labelDescription.hidden=true",
-                       "objectName=" + objectNameFor(allTexts.join(QString()))}
+        << R"([{"inspect": ""}, {"inspect": "labelTitle"}, {"inspect": "groupBoxTop"},
+              {"inspect": "labelTop"}, {"inspect": "groupBoxInput"}, {"inspect": "labelInput"},
+              {"inspect": "labelOutput"}, {"inspect": "checkbox"},
+              {"inspect": "groupBoxDescription"}, {"inspect": "labelDescription"},
+              {"click": "helpButton"}, {"accept": true}])"
+        << in + "|out.net||1"
+        << QStringList{"inspect:.title=Convert", "inspect:labelTitle.text=Netlist converter",
+                       "inspect:groupBoxTop.text=About", "inspect:labelTop.hidden=false",
+                       "inspect:groupBoxInput.text=Source", "inspect:labelInput.hidden=true",
+                       "inspect:labelOutput.text=Written here", "inspect:checkbox.text=Open it?",
+                       "inspect:groupBoxDescription.hidden=false",
+                       "inspect:labelDescription.hidden=true",
+                       "inspect:.text=" + objectNameFor(allTexts.join(QString()))}
         << QStringList{"help|12"} << QStringList();
     QStringList hidden = allTexts;
     hidden[11] = QStringLiteral("1");
     QTest::newRow("element 11 \"1\" hides the description")
-        << stringArgs({{in}, hidden}) << QStringList() << accept << in + "|||1"
-        << QStringList{"groupBoxDescription.hidden=true"} << QStringList() << QStringList();
+        << stringArgs({{in}, hidden}) << QStringList()
+        << R"([{"inspect": "groupBoxDescription"}, {"accept": true}])" << in + "|||1"
+        << QStringList{"inspect:groupBoxDescription.hidden=true"} << QStringList() << QStringList();
     QTest::newRow("kinds give the filters; the output is not checked")
         << stringArgs({{in, missing}, {}, keys}) << QStringList()
         << R"([{"click": "toolButtonInput"}, {"file": ""}, {"click": "toolButtonOutput"},
