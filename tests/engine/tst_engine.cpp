@@ -85,6 +85,7 @@ const QStringList implemented = {
     "TabValueDialog", "LoopForgeEditComponentDialog", "LoopForgeEditPWMDialog",
     "RadioSelectWidgetStackDialog",
     "CreateDiodeDialog", "CreatePowerInductorModel", "ModelExtractionDialog", "BrelvonOptionsDialog",
+    "SaveSpecialDialog", "DialogDesigner", "TwoFileSelectionDialog",
 };
 
 ScriptValue strings(std::vector<std::string> s)
