@@ -618,6 +618,28 @@ void TestFileDesigner::designer_data()
                        "tree=Group: G{Radio button: Radio, Spin Box: SpinBox}, "
                        "Tab: T{Spacer, Check box: CheckBox, Group: Group}"}
         << QStringList() << QStringList();
+    QTest::newRow("a tab dragged into a group is red, dragged back white")
+        << xml("<Dialog><Group title=\"G\"/><Tab title=\"T\"/><CheckBox title=\"c\"/></Dialog>")
+        << QStringList()
+        << R"([{"drag": "treeWidget_Layout", "item": "Tab: T", "onto": "Group: G"},
+              {"inspect": "treeWidget_Layout"},
+              {"drag": "treeWidget_Layout", "item": "Tab: T", "onto": ""}, {"accept": true}])"
+        << xmlOf("<Dialog><Group title=\"G\"/><CheckBox title=\"c\"/><Tab title=\"T\"/></Dialog>")
+        << QStringList{"tree=Group: G, Tab: T, Check box: c -> Group: G{Tab: T!}, Check box: c "
+                       "-> Group: G, Check box: c, Tab: T",
+                       "preview=Group(G){}, Tabs{T{}}, CheckBox(c) -> Tabs{T{}}, Group(G){}, "
+                       "CheckBox(c) -> Group(G){}, CheckBox(c), Tabs{T{}}",
+                       "inspect:treeWidget_Layout.items=Group: G|  Tab: T|Check box: c"}
+        << QStringList() << QStringList();
+    QTest::newRow("a check box dropped on a radio button is red and not written")
+        << xml("<Dialog><RadioButton title=\"r\"/><CheckBox title=\"c\"/></Dialog>")
+        << QStringList()
+        << R"([{"drag": "treeWidget_Layout", "item": "Check box: c", "onto": "Radio button: r"},
+              {"accept": true}])"
+        << xmlOf("<Dialog><RadioButton title=\"r\"/></Dialog>")
+        << QStringList{"tree=Radio button: r{Check box: c!}", "expanded=true",
+                       "preview=RadioButton(r)"}
+        << QStringList() << QStringList();
     QTest::newRow("menu of a group offers no tab")
         << xml("<Dialog><Group title=\"G\"/></Dialog>") << QStringList()
         << R"([{"choose": "treeWidget_Layout", "text": "Group: G"},
