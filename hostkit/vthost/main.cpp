@@ -40,6 +40,8 @@ const char* const usageText =
     "  --config-dir DIR   keep options, preferences and window sizes in DIR\n"
     "  --answer X         answer the dialogs a call opens: accept, cancel or a\n"
     "                     JSON file of steps\n"
+    "  --lang LANG        show the dialogs in this language (\"xx\" is the\n"
+    "                     pseudo-translation); default: the system's locale\n"
     "  --json             (list) print the functions as JSON\n";
 
 struct Options {
@@ -47,6 +49,7 @@ struct Options {
     QString module;
     QString configDir;
     QString answer;
+    QString lang;
     bool json = false;
     bool help = false;
 };
@@ -72,6 +75,9 @@ bool parseOptions(int argc, char** argv, Options* o, QString* error)
                 return false;
         } else if (word == QLatin1String("--config-dir")) {
             if (!value(&o->configDir))
+                return false;
+        } else if (word == QLatin1String("--lang")) {
+            if (!value(&o->lang))
                 return false;
         } else if (word == QLatin1String("--answer")) {
             if (!value(&o->answer))
@@ -313,6 +319,8 @@ int main(int argc, char** argv)
     ensureRuntimeDir();
     qInstallMessageHandler(&quietOffscreenNoise);
     QApplication app(argc, argv);
+    // A language without a translation shows the texts as written.
+    vtkit::installTranslations(options.lang);
 
     Answering answering;
     answering.headless = QGuiApplication::platformName() == QLatin1String("offscreen")
