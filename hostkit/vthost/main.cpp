@@ -265,8 +265,13 @@ int run(vtkit::Engine& engine, const Answering& answering, const QStringList& wo
 // that says nothing about the call, so keep it off the user's terminal.
 void quietOffscreenNoise(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
-    if (text.contains(QLatin1String("does not support propagateSizeHints")))
-        return;
+    // The offscreen platform says so for every window and popup; nothing
+    // a person drawing offscreen can act on.
+    for (const char* noise : {"does not support propagateSizeHints", "does not support raise()",
+                              "does not support grabbing the keyboard",
+                              "does not support grabbing the mouse"})
+        if (text.contains(QLatin1String(noise)))
+            return;
     std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, text)));
 }
 
