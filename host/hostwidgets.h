@@ -24,16 +24,21 @@
 #pragma once
 
 #include <QCheckBox>
+#include <QColor>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPen>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QString>
 #include <QWidget>
+
+#include <memory>
+#include <vector>
 
 #define VT_WIDGETS_API __attribute__((visibility("default")))
 
@@ -458,4 +463,191 @@ class VT_WIDGETS_API CancelButton : public PushButton {
 public:
     explicit CancelButton(QWidget* parent = nullptr, const char* name = nullptr);
     ~CancelButton() override;
+};
+
+// ----------------------------------------------------------------- Plotter
+
+// One axis of a Plotter: its limits and how it is drawn,
+//   Axis(low, high, precision, minorTicks, logarithmic, flags)
+// - precision: significant digits of the tick labels, 1 to 15; 0 takes 3.
+//   Labels carry engineering suffixes (f p n u m k M G T): 1000 reads "1k".
+// - minorTicks: unlabelled ticks between two labelled ones. On a linear axis
+//   that many, evenly spaced (at most 20). On a logarithmic axis they stand
+//   at multiples of the decade: 1 gives 5; 2 or 3 give 2 and 5; 4 to 7 give
+//   2, 4, 6 and 8; 8 or more give 2 to 9.
+// - logarithmic: non-zero for a log10 axis, labelled at whole decades (every
+//   second or fifth decade when they would crowd).
+// - flags: bit 0 hides the grid lines, bit 1 the tick labels.
+// A linear axis is labelled every 1, 2 or 5 times a power of ten, as many
+// as fit. Limits are made drawable: swapped when in the wrong order, spread
+// around a single value, 0 to 1 when not finite; a logarithmic axis whose
+// limits aren't both positive starts three decades below its high limit,
+// and is drawn linear when even the high limit isn't positive.
+// Bode-style calls: Axis(10, 10000, 2, 4, 1, 0) is a log frequency axis
+// with labels 10, 100, 1k, 10k; Axis(-60, 20, 3, 0, 0, 0) a linear axis
+// labelled every 20.
+class VT_WIDGETS_API Axis {
+public:
+    enum Flag : unsigned { NoGrid = 1u, NoLabels = 2u };
+
+    Axis() = default;
+    Axis(double low, double high, unsigned precision, unsigned minorTicks, unsigned logarithmic,
+         unsigned flags);
+    void setAxisParams(double low, double high, unsigned precision, unsigned minorTicks,
+                       unsigned logarithmic, unsigned flags);
+
+    double low() const { return m_low; }
+    double high() const { return m_high; }
+    unsigned precision() const { return m_precision; }
+    unsigned minorTicks() const { return m_minorTicks; }
+    bool isLogarithmic() const { return m_logarithmic; }
+    unsigned flags() const { return m_flags; }
+
+    // Tick positions between low and high, ascending, for an axis drawn
+    // over length pixels with labels at least spacing pixels apart: the
+    // labelled ones, and the minor ones between them.
+    std::vector<double> majorTicks(double length, double spacing) const;
+    std::vector<double> minorTickValues(double length, double spacing) const;
+    // A tick label: v with an engineering suffix, to precision digits.
+    QString label(double v) const;
+
+private:
+    double m_low = 0.0;
+    double m_high = 1.0;
+    unsigned m_precision = 0;
+    unsigned m_minorTicks = 0;
+    unsigned m_flags = 0;
+    bool m_logarithmic = false;
+};
+
+// A marker line across the plot at one position of one axis:
+//   CursorLine(vertical, position, label, visible, movable, pen)
+// A vertical cursor stands at an x value, a horizontal one at a y value.
+// The label is drawn at the line's end (top or right); a movable cursor can
+// be dragged with the mouse. CursorLine() is an invisible vertical cursor.
+class VT_WIDGETS_API CursorLine {
+public:
+    CursorLine() = default;
+    CursorLine(bool vertical, double position, QString label, bool visible, bool movable,
+               QPen pen);
+    // Keeps visible and movable.
+    void setCursorLine(bool vertical, double position, QString label, QPen pen);
+
+    bool isVertical() const { return m_vertical; }
+    double position() const { return m_position; }
+    void setPosition(double position) { m_position = position; }
+    const QString& label() const { return m_label; }
+    bool isVisible() const { return m_visible; }
+    bool isMovable() const { return m_movable; }
+    const QPen& pen() const { return m_pen; }
+
+private:
+    QString m_label;
+    QPen m_pen = QPen(QColor(200, 0, 0), 1.0, Qt::DashLine);
+    double m_position = 0.0;
+    bool m_vertical = true;
+    bool m_visible = false;
+    bool m_movable = false;
+};
+
+// A graph of curves over an x and a y Axis, with a grid, tick labels and
+// cursor lines. Curve data is flat: x0, y0, x1, y1, ... (an odd last value
+// is ignored); a point with a value that isn't finite is left out and
+// breaks the line. Curves and cursors are numbered by the caller (0 to
+// 63); setting one replaces it.
+//
+// A long curve is drawn at pixel resolution: each point goes to the centre
+// of the pixel it falls in, and the points that fall in one pixel column
+// are reduced to the first, the lowest, the highest and the last, which
+// covers exactly the pixels that every point would. Painting costs one
+// pass over the points and memory in proportion to the width.
+//
+// The user zooms with the wheel about the mouse (Shift: x only, Ctrl: y
+// only), pans by dragging or with the arrow keys, zooms with + and -, and
+// goes back to the axes as given with Home, R or a double click (Escape
+// stays the dialog's).
+// A movable cursor is dragged along its axis and reports cursorMoved.
+// margins are free pixels around the graph, beyond the room the labels
+// take: setMargins(left, top, right, bottom).
+class VT_WIDGETS_API Plotter : public QWidget {
+    Q_OBJECT
+    Q_PROPERTY(bool antialiasing READ antialiasing WRITE setAntialiasing)
+    Q_PROPERTY(bool decimation READ decimation WRITE setDecimation)
+
+public:
+    static constexpr int kMaxCurves = 64;
+
+    explicit Plotter(QWidget* parent = nullptr, const char* name = nullptr);
+    ~Plotter() override;
+
+    void initializeAxes(const Axis& x, const Axis& y);
+    void setMargins(unsigned left, unsigned top, unsigned right, unsigned bottom);
+    void setCurveData(int curve, const std::vector<double>& data, const QPen& pen);
+    void setCursorData(int cursor, const CursorLine& line);
+    void clearCurve(int curve);
+    void clearCurveAll();
+    void clearCursorAll();
+
+    // The axes as shown now, after zooming and panning.
+    const Axis& xAxis() const { return m_viewX; }
+    const Axis& yAxis() const { return m_viewY; }
+    int curveCount() const; // curves that hold data
+    // Where a cursor is now (after dragging); NaN for one that isn't set.
+    double cursorPosition(int cursor) const;
+    // The rectangle of the graph inside the widget.
+    QRect plotArea() const;
+    // Pixel coordinates of a point, or of one axis value; NaN where the
+    // axis can't show it (a log axis and a value <= 0).
+    QPointF mapToPixel(double x, double y) const;
+
+    // Curves antialiased (on by default). Off, a 1 pixel pen gives the exact
+    // pixels of the points, which tests and print-outs may want.
+    bool antialiasing() const { return m_antialiasing; }
+    void setAntialiasing(bool on);
+    // Column reduction of long curves (on by default); off draws every point
+    // at its pixel, to compare with.
+    bool decimation() const { return m_decimation; }
+    void setDecimation(bool on);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+signals:
+    void cursorMoved(int cursor, double position);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    struct Curve {
+        std::vector<double> data;
+        QPen pen;
+    };
+    struct Drag;
+
+    void resetView();
+    void zoom(double factorX, double factorY, QPointF centre);
+    void pan(double dxPixels, double dyPixels);
+    int cursorAt(QPointF pos) const;
+    void drawGrid(QPainter& p, const QRect& area) const;
+    void drawCurve(QPainter& p, const QRect& area, const Curve& curve) const;
+    void drawCursors(QPainter& p, const QRect& area) const;
+
+    Axis m_givenX;
+    Axis m_givenY;
+    Axis m_viewX;
+    Axis m_viewY;
+    std::vector<Curve> m_curves;
+    std::vector<CursorLine> m_cursors;
+    QMargins m_margins;
+    std::unique_ptr<Drag> m_drag;
+    bool m_antialiasing = true;
+    bool m_decimation = true;
 };

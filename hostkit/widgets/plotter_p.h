@@ -1,0 +1,58 @@
+// Inside the Plotter: the map from axis values to pixel positions, shared
+// by the widget and its curve drawing.
+#pragma once
+
+#include "hostwidgets.h"
+
+#include <QRect>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace plotter {
+
+// Continuous pixel position along one axis: pixel = origin + (t(v) - t0) * k,
+// where t is log10 on a logarithmic axis. Pixel p covers [p, p + 1).
+struct Scale {
+    double t0 = 0.0;
+    double k = 1.0;
+    double origin = 0.0;
+    bool log = false;
+
+    // The limits map to the first and the last pixel of the area, so that
+    // a curve on a limit is drawn; y runs upwards.
+    static Scale horizontal(const Axis& axis, const QRect& area)
+    {
+        return of(axis, area.left(), std::max(1, area.width() - 1), false);
+    }
+    static Scale vertical(const Axis& axis, const QRect& area)
+    {
+        return of(axis, area.top() + area.height() - 1, std::max(1, area.height() - 1), true);
+    }
+    static Scale of(const Axis& axis, double origin, double length, bool upwards)
+    {
+        Scale s;
+        s.log = axis.isLogarithmic();
+        s.t0 = s.log ? std::log10(axis.low()) : axis.low();
+        const double t1 = s.log ? std::log10(axis.high()) : axis.high();
+        s.k = (upwards ? -length : length) / (t1 - s.t0);
+        s.origin = origin;
+        return s;
+    }
+    // Non-finite for values the axis can't show.
+    double t(double v) const
+    {
+        if (!log)
+            return v;
+        return v > 0.0 ? std::log10(v) : std::numeric_limits<double>::quiet_NaN();
+    }
+    double toPixel(double v) const { return origin + (t(v) - t0) * k; }
+    double fromPixel(double pixel) const
+    {
+        const double tv = t0 + (pixel - origin) / k;
+        return log ? std::pow(10.0, tv) : tv;
+    }
+};
+
+} // namespace plotter

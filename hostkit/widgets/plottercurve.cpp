@@ -1,0 +1,257 @@
+// Drawing one curve of a Plotter at pixel resolution.
+//
+// Every point goes to the centre of its pixel. The points of one run that
+// fall in one pixel column lie on one vertical line there, and the segments
+// between them cover exactly the pixels from the lowest to the highest; so
+// a column needs only its first, lowest, highest and last point, in the
+// order they came, for the same picture: the segments into and out of the
+// column start and end at the same places. A column is found by comparing
+// x with the column's bounds, so sorted data costs no mapping per point.
+#include "plotter_p.h"
+
+#include <QPainter>
+#include <QVector>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+using plotter::Scale;
+
+// Pixel positions that keep well inside what the rasteriser takes.
+constexpr double kFar = 1e15;
+// Points per drawPolyline call: keeps memory flat whatever the data.
+constexpr int kChunk = 4096;
+
+double clampFar(double v)
+{
+    return std::clamp(v, -kFar, kFar);
+}
+
+// Collects polylines and hands them to the painter in chunks. Segments are
+// clipped to a guard rectangle a little outside the plot area first, so
+// that far-off points neither reach the rasteriser nor bend what is seen.
+class PolylineSink {
+public:
+    PolylineSink(QPainter& painter, const QRectF& guard)
+        : m_painter(painter)
+        , m_guard(guard)
+    {
+        m_points.reserve(kChunk + 2);
+    }
+    ~PolylineSink() { flush(); }
+
+    void point(const QPointF& q)
+    {
+        const bool inside = m_guard.contains(q);
+        if (!m_started) {
+            m_started = true;
+            if (inside)
+                m_points.push_back(q);
+        } else if (q == m_previous) {
+            return;
+        } else if (m_previousInside && inside) {
+            m_points.push_back(q);
+        } else {
+            QPointF a = m_previous, b = q;
+            if (clip(a, b)) {
+                if (!m_previousInside) {
+                    flush();
+                    m_points.push_back(a);
+                }
+                m_points.push_back(b);
+            }
+            if (!inside)
+                flush();
+        }
+        m_previous = q;
+        m_previousInside = inside;
+        if (m_points.size() >= kChunk) {
+            const QPointF last = m_points.back();
+            flush();
+            m_points.push_back(last);
+        }
+    }
+
+    // A gap: the next point starts a new line.
+    void breakLine()
+    {
+        flush();
+        m_started = false;
+    }
+
+private:
+    void flush()
+    {
+        if (m_points.size() >= 2)
+            m_painter.drawPolyline(m_points.constData(), m_points.size());
+        else if (m_points.size() == 1)
+            m_painter.drawPoint(m_points.front());
+        m_points.clear();
+    }
+
+    // Liang-Barsky: cuts a to b down to the part inside the guard.
+    bool clip(QPointF& a, QPointF& b) const
+    {
+        const double dx = b.x() - a.x(), dy = b.y() - a.y();
+        double t0 = 0.0, t1 = 1.0;
+        const double p[4] = {-dx, dx, -dy, dy};
+        const double q[4] = {a.x() - m_guard.left(), m_guard.right() - a.x(),
+                             a.y() - m_guard.top(), m_guard.bottom() - a.y()};
+        for (int i = 0; i < 4; ++i) {
+            if (p[i] == 0.0) {
+                if (q[i] < 0.0)
+                    return false;
+                continue;
+            }
+            const double r = q[i] / p[i];
+            if (p[i] < 0.0)
+                t0 = std::max(t0, r);
+            else
+                t1 = std::min(t1, r);
+            if (t0 > t1)
+                return false;
+        }
+        const QPointF start = a;
+        a = QPointF(start.x() + t0 * dx, start.y() + t0 * dy);
+        b = QPointF(start.x() + t1 * dx, start.y() + t1 * dy);
+        return true;
+    }
+
+    QPainter& m_painter;
+    QRectF m_guard;
+    QVector<QPointF> m_points;
+    QPointF m_previous;
+    bool m_started = false;
+    bool m_previousInside = false;
+};
+
+// Which pixel column an x value falls in. Column c holds the x with
+// bound(c) <= x < bound(c + 1); the bounds of the last column found are
+// kept, so runs of sorted data are placed by two comparisons.
+class Columns {
+public:
+    explicit Columns(const Scale& scale)
+        : m_scale(scale)
+    {
+    }
+
+    // False for an x the axis can't place.
+    bool find(double x, long long* column)
+    {
+        if (x >= m_low && x < m_high) {
+            *column = m_column;
+            return true;
+        }
+        const double pixel = m_scale.toPixel(x);
+        if (!std::isfinite(pixel))
+            return false;
+        long long c = static_cast<long long>(std::floor(clampFar(pixel)));
+        // The mapping and its inverse may disagree in the last bit; the
+        // bounds decide, so that every way of placing x agrees.
+        for (int i = 0; i < 2 && x < bound(c); ++i)
+            --c;
+        for (int i = 0; i < 2 && x >= bound(c + 1); ++i)
+            ++c;
+        m_column = c;
+        m_low = bound(c);
+        m_high = bound(c + 1);
+        *column = c;
+        return true;
+    }
+
+private:
+    double bound(long long c) const { return m_scale.fromPixel(double(c)); }
+
+    const Scale& m_scale;
+    long long m_column = 0;
+    double m_low = 1.0;
+    double m_high = 0.0; // empty until the first find
+};
+
+// The y pixel row's centre for a value, NaN where it can't be shown.
+double rowCentre(const Scale& y, double v)
+{
+    const double pixel = y.toPixel(v);
+    if (!std::isfinite(pixel))
+        return pixel;
+    return std::floor(clampFar(pixel)) + 0.5;
+}
+
+// The column being gathered: values by data y, in the order seen.
+struct Column {
+    long long index = 0;
+    double first = 0.0, last = 0.0, low = 0.0, high = 0.0;
+    bool lowFirst = true; // the lowest came before the highest
+    bool open = false;
+};
+
+void emitColumn(PolylineSink& sink, const Scale& y, const Column& c)
+{
+    const double x = double(c.index) + 0.5;
+    const double a = c.lowFirst ? c.low : c.high;
+    const double b = c.lowFirst ? c.high : c.low;
+    for (double v : {c.first, a, b, c.last})
+        sink.point(QPointF(x, rowCentre(y, v)));
+}
+
+bool showable(const Scale& s, double v)
+{
+    return std::isfinite(v) && (!s.log || v > 0.0);
+}
+
+} // namespace
+
+void Plotter::drawCurve(QPainter& p, const QRect& area, const Curve& curve) const
+{
+    const Scale sx = Scale::horizontal(m_viewX, area);
+    const Scale sy = Scale::vertical(m_viewY, area);
+    const double pad = std::max(8.0, curve.pen.widthF() * 2 + 4);
+    PolylineSink sink(p, QRectF(area).adjusted(-pad, -pad, pad, pad));
+    Columns columns(sx);
+
+    const std::vector<double>& d = curve.data;
+    const std::size_t n = d.size() / 2;
+    if (!m_decimation) {
+        for (std::size_t i = 0; i < n; ++i) {
+            const double x = d[2 * i], y = d[2 * i + 1];
+            long long c = 0;
+            if (!showable(sx, x) || !showable(sy, y) || !columns.find(x, &c)) {
+                sink.breakLine();
+                continue;
+            }
+            sink.point(QPointF(double(c) + 0.5, rowCentre(sy, y)));
+        }
+        return;
+    }
+
+    Column col;
+    for (std::size_t i = 0; i < n; ++i) {
+        const double x = d[2 * i], y = d[2 * i + 1];
+        long long c = 0;
+        if (!showable(sx, x) || !showable(sy, y) || !columns.find(x, &c)) {
+            if (col.open)
+                emitColumn(sink, sy, col);
+            col.open = false;
+            sink.breakLine();
+            continue;
+        }
+        if (col.open && c == col.index) {
+            col.last = y;
+            if (y < col.low) {
+                col.low = y;
+                col.lowFirst = false;
+            } else if (y > col.high) {
+                col.high = y;
+                col.lowFirst = true;
+            }
+            continue;
+        }
+        if (col.open)
+            emitColumn(sink, sy, col);
+        col = Column{c, y, y, y, y, true, true};
+    }
+    if (col.open)
+        emitColumn(sink, sy, col);
+}
