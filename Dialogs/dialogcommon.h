@@ -8,6 +8,9 @@
 #include <QString>
 #include <QStringList>
 
+#include <climits>
+#include <cstdlib>
+
 namespace dialogcommon {
 
 // The elements of string argument index; empty and *present false when the
@@ -32,6 +35,19 @@ inline QStringList stringArg(UserFunctionInterface* call, int index, bool* prese
 inline QString elementOr(const QStringList& texts, int i)
 {
     return i >= 0 && i < texts.size() ? texts.at(i) : QString();
+}
+
+// The number at the start of text as atoi reads it (blanks, sign, digits;
+// 0 for none), clamped to the range of int instead of overflowing.
+inline int leadingInt(const QString& text)
+{
+    const QByteArray bytes = text.toLatin1();
+    const long long v = std::strtoll(bytes.constData(), nullptr, 10);
+    if (v > INT_MAX)
+        return INT_MAX;
+    if (v < INT_MIN)
+        return INT_MIN;
+    return static_cast<int>(v);
 }
 
 // Makes the call's string result from texts; each element a host copy.

@@ -16,11 +16,12 @@
 // ":/shift_right_32.png", ":/stop.png", ":/options.png",
 // ":/qmessagebox-warn_transparent_bg.png", ":/qmessagebox-quest_transparent_bg.png",
 // ":/qmessagebox-info_transparent_bg.png", ":/16x16_rightarrow_transparent_bg.png",
-// ":/threshold_hysteresis.png", the LoopForge block pictures
-// (":/adder_32_0.png" ... ":/epwm_beta1.png", see images/blockimages.cpp) and
-// the diode configurations and tool tip pictures of model extraction
-// (":/single_1p0.png" ... ":/select_button_mouse_cursor_transparent.png", see
-// images/deviceimages.cpp) as it loads.
+// ":/threshold_hysteresis.png", ":/16x16_save_o.png", ":/power_probe_24x24.png",
+// the LoopForge block pictures (":/adder_32_0.png" ... ":/epwm_beta1.png", see
+// images/blockimages.cpp) and the diode configurations and tool tip pictures of
+// model extraction (":/single_1p0.png" ...
+// ":/select_button_mouse_cursor_transparent.png", see images/deviceimages.cpp)
+// as it loads.
 #pragma once
 
 #include <QCheckBox>
@@ -556,7 +557,8 @@ private:
 // breaks the line. Curves and cursors are numbered by the caller (0 to
 // 63); setting one replaces it.
 //
-// A long curve is drawn at pixel resolution: each point goes to the centre
+// A long curve (more than two points per pixel column) is drawn at pixel
+// resolution: each point goes to the centre
 // of the pixel it falls in, and the points that fall in one pixel column
 // are reduced to the first, the lowest, the highest and the last, which
 // covers exactly the pixels that every point would. Painting costs one
@@ -605,7 +607,7 @@ public:
     bool antialiasing() const { return m_antialiasing; }
     void setAntialiasing(bool on);
     // Column reduction of long curves (on by default); off draws every point
-    // at its pixel, to compare with.
+    // of every curve at its pixel, to compare with.
     bool decimation() const { return m_decimation; }
     void setDecimation(bool on);
 

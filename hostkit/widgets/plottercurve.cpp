@@ -1,4 +1,5 @@
-// Drawing one curve of a Plotter at pixel resolution.
+// Drawing one curve of a Plotter. A short curve is drawn as it is; a long
+// one at pixel resolution, reduced per pixel column.
 //
 // Every point goes to the centre of its pixel. The points of one run that
 // fall in one pixel column lie on one vertical line there, and the segments
@@ -213,6 +214,18 @@ void Plotter::drawCurve(QPainter& p, const QRect& area, const Curve& curve) cons
 
     const std::vector<double>& d = curve.data;
     const std::size_t n = d.size() / 2;
+    // A curve with few points per column is drawn as it is, between pixels.
+    if (m_decimation && n <= std::size_t(2 * area.width())) {
+        for (std::size_t i = 0; i < n; ++i) {
+            const double x = d[2 * i], y = d[2 * i + 1];
+            if (!showable(sx, x) || !showable(sy, y)) {
+                sink.breakLine();
+                continue;
+            }
+            sink.point(QPointF(clampFar(sx.toPixel(x)), clampFar(sy.toPixel(y))));
+        }
+        return;
+    }
     if (!m_decimation) {
         for (std::size_t i = 0; i < n; ++i) {
             const double x = d[2 * i], y = d[2 * i + 1];

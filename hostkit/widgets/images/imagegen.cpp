@@ -204,6 +204,36 @@ void drawThresholdHysteresis(QPainter& p, int width, int height)
     p.drawLine(QPointF(fallAt, tl), QPointF(fallAt, outHigh));
 }
 
+// A diskette: body, shutter and label, for saving.
+void drawSave(QPainter& p, int size)
+{
+    const qreal s = size;
+    p.setPen(QPen(QColor(20, 50, 110), 1.0));
+    p.setBrush(QColor(60, 110, 200));
+    QPolygonF body({QPointF(s * 0.1, s * 0.1), QPointF(s * 0.78, s * 0.1), QPointF(s * 0.9, s * 0.22),
+                    QPointF(s * 0.9, s * 0.9), QPointF(s * 0.1, s * 0.9)});
+    p.drawPolygon(body);
+    p.setPen(Qt::NoPen);
+    p.setBrush(QColor(215, 220, 230));
+    p.drawRect(QRectF(s * 0.28, s * 0.1, s * 0.44, s * 0.28));
+    p.setBrush(QColor(60, 110, 200));
+    p.drawRect(QRectF(s * 0.56, s * 0.15, s * 0.1, s * 0.18));
+    p.setBrush(Qt::white);
+    p.drawRect(QRectF(s * 0.22, s * 0.52, s * 0.56, s * 0.3));
+}
+
+// A power probe: a round meter face with a lightning bolt.
+void drawPowerProbe(QPainter& p, int size)
+{
+    const qreal s = size;
+    drawDisc(p, size, QColor(250, 245, 225), QColor(120, 90, 20));
+    p.setPen(QPen(QColor(120, 70, 0), 0.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    p.setBrush(QColor(245, 170, 20));
+    p.drawPolygon(QPolygonF({QPointF(s * 0.56, s * 0.12), QPointF(s * 0.3, s * 0.55),
+                             QPointF(s * 0.48, s * 0.55), QPointF(s * 0.4, s * 0.88),
+                             QPointF(s * 0.72, s * 0.42), QPointF(s * 0.53, s * 0.42)}));
+}
+
 struct Picture {
     const char* file;
     int width;
@@ -233,6 +263,8 @@ int main(int argc, char** argv)
         {"qmessagebox-info_transparent_bg.png", 32, 32, drawInfo},
         {"16x16_rightarrow_transparent_bg.png", 16, 16, drawRightArrow},
         {"threshold_hysteresis.png", 160, 100, [](QPainter& p, int) { drawThresholdHysteresis(p, 160, 100); }},
+        {"16x16_save_o.png", 16, 16, drawSave},
+        {"power_probe_24x24.png", 24, 24, drawPowerProbe},
     };
     int failures = 0;
     std::vector<Picture> all(std::begin(pictures), std::end(pictures));
