@@ -11,7 +11,8 @@
 
 #include "ui_editbodeplotprobedialog2.h"
 
-#include <QApplication>
+#include <QCoreApplication>
+#include <QLayout>
 #include <QColorDialog>
 #include <QDialog>
 #include <QPen>
@@ -228,9 +229,11 @@ void EditBodePlotProbeDialog2::showEvent(QShowEvent* event)
     cbPhaseUseDefaultColor_clicked(ui.cbPhaseUseDefaultColor->isChecked());
     ui.leGainCurveLabel->selectAll();
     ui.leGainCurveLabel->setFocus();
-    // Down to the layout's minimum, whatever the form's design size.
-    resize(0, 0);
     QDialog::showEvent(event);
+    // Down to the layout's minimum, whatever the form's design size, once
+    // the shown widgets have settled: posted, so it runs in the dialog's
+    // own event loop.
+    QMetaObject::invokeMethod(this, [this] { resize(0, 0); }, Qt::QueuedConnection);
 }
 
 void EditBodePlotProbeDialog2::helpButton_clicked()
@@ -303,10 +306,22 @@ void EditBodePlotProbeDialog2::update_graphs()
     ui.rgPlaceCurvesOn->setEnabled(placementEnabled);
     ui.rgVerticalOrder->setEnabled(orderEnabled);
 
-    // Shrinks around the plotter that is left.
+    // Shrinks around the plotter that is left. Only the layouts' own
+    // requests run here, not a nested event loop, which could run a
+    // caller's events before the dialog's own loop has started.
     if (isVisible()) {
+        // Each layout from the plotters' group out to the dialog takes in
+        // the change before the next one asks it for its size.
+        for (QWidget* w = lower->parentWidget(); w; w = w->parentWidget()) {
+            if (QLayout* l = w->layout()) {
+                l->invalidate();
+                l->activate();
+            }
+            w->updateGeometry();
+            if (w == this)
+                break;
+        }
         resize(width(), 0);
-        QApplication::processEvents();
     }
 }
 
