@@ -142,3 +142,25 @@ show call TwoFileSelectionDialog '["", "", ""]' "$twofile_texts" "$twofile_keys"
   --answer $d/twofileselection.json
 show call DialogDesigner '["<Dialog><Tab title=\"General\"/><Group title=\"Supply\"/><Tab title=\"Advanced\"/></Dialog>"]' \
   --answer $d/dialogdesigner.json
+show call EditBodePlotProbeDialog '["Gain", "Phase", "0", "0", "1", "-60", "20", "1", "-180", "180", "0"]' \
+  --answer $d/bodeprobe.json
+show call EditBodePlotProbeDialog2 '["loop gain", "-1", "1", "Loop gain", "default", "0", "1", "1", "40",
+  "-40", "20", "-1", "1", "Loop phase", "default", "0", "1", "1", "180", "-180", "45", "255", "0", "1"]' \
+  '["Edit Bode Plot Probe", "4201"]' --answer $d/bodeprobe2.json
+show call EfficiencyDialog '["yesno", "warn"]' '[]' '["Simulation results are out of date",
+  "The schematic changed since the last run.<br>Run the simulation again before computing the efficiency?"]' \
+  '["4300", "Efficiency Calculator"]' --answer $d/efficiency-yesno.json
+# The probe selection stops being modal while it runs; it joins the demo
+# once the answer driver follows such dialogs.
+# show call EfficiencyDialog '["select"]' '["P(V1)|P(Q1)|P(Q2)|P(R_load)|P(D1)", "", "", "P(V1)"]' \
+#   '["Choose the power probes", "Move the <b>source</b> probes to the inputs and the <b>load</b> probes to the outputs."]' \
+#   '["4300"]' --answer $d/efficiency-select.json
+show call LoopForgeEditClocksDialog "[\"0;1;1;'sysclk';10Meg;50;0\", \"1;1;1;'adc';100k;50;0\",
+  \"2;1;0;'pwm';20k;50;1u\", \"3;0;0;'user3';1k;50;0\", \"4;0;0;'user4';1k;50;0\", \"5;0;0;'user5';1k;50;0\",
+  \"6;0;0;'user6';1k;50;0\", \"7;0;0;'user7';1k;50;0\", \"1\"]" \
+  '["LoopForge - Edit Global Clocks", "The system clock drives every block; user clocks can be enabled and graphed.", "Global Clocks", "4400"]' \
+  --answer $d/clocks.json
+show call LoopForgeEditProbeDialog '["DATA_OUT", "digital", "hex", "1", "auto", "", "10", "-1", "", "0", "1", "0", "16711680"]' \
+  '["Edit <i>LoopForge</i> probe on bus DATA_OUT[15:0]", "Edit LoopForge Bus Probe", "signed decimal|decimal|hexadecimal|binary",
+  "sdec|dec|hex|bin", "0", "4410"]' '["Name of the curve in the graph"]' --answer $d/busprobe.json
+show call TestPlotter --answer $d/testplotter.json
