@@ -86,6 +86,8 @@ const QStringList implemented = {
     "RadioSelectWidgetStackDialog",
     "CreateDiodeDialog", "CreatePowerInductorModel", "ModelExtractionDialog", "BrelvonOptionsDialog",
     "SaveSpecialDialog", "DialogDesigner", "TwoFileSelectionDialog",
+    "EditBodePlotProbeDialog", "EditBodePlotProbeDialog2", "EfficiencyDialog", "TestPlotter",
+    "LoopForgeEditClocksDialog", "LoopForgeEditProbeDialog",
 };
 
 ScriptValue strings(std::vector<std::string> s)

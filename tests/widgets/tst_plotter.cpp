@@ -348,7 +348,7 @@ void TestPlotter::badCurves_data()
     QTest::newRow("all NaN") << std::vector<double>{kNaN, kNaN, kNaN, 1.0, 1.0, kNaN} << false;
     QTest::newRow("infinities") << std::vector<double>{-kInf, 0.5, 0.2, kInf, 0.4, 0.4, 0.6, 0.6} << true;
     QTest::newRow("far off") << std::vector<double>{-1e300, -1e300, 0.5, 0.5, 1e300, 1e300} << true;
-    QTest::newRow("denormals") << std::vector<double>{5e-324, 0.5, 1e-310, -5e-324} << true;
+    QTest::newRow("denormals") << std::vector<double>{5e-324, 0.5, 0.5, -5e-324} << true;
     QTest::newRow("outside") << std::vector<double>{2, 2, 3, 3, 4, 4} << false;
 }
 
