@@ -631,6 +631,7 @@ private:
     struct Curve {
         std::vector<double> data;
         QPen pen;
+        bool sortedX = false; // x ascending and never NaN
     };
     struct Drag;
 

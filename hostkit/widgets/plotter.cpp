@@ -99,7 +99,12 @@ void Plotter::setCurveData(int curve, const std::vector<double>& data, const QPe
         return;
     if (m_curves.size() <= std::size_t(curve))
         m_curves.resize(std::size_t(curve) + 1);
-    m_curves[std::size_t(curve)] = Curve{data, pen};
+    Curve& c = m_curves[std::size_t(curve)];
+    c = Curve{data, pen, true};
+    for (std::size_t i = 0; i + 1 < data.size() / 2 && c.sortedX; ++i)
+        c.sortedX = data[2 * i] <= data[2 * i + 2];
+    if (!data.empty() && std::isnan(data.front()))
+        c.sortedX = false;
     update();
 }
 
@@ -208,7 +213,13 @@ void Plotter::paintEvent(QPaintEvent*)
 {
     QPainter p(this);
     const QRect area = plotArea();
-    p.fillRect(rect(), palette().window());
+    // Each pixel is filled once: the graph white, the frame around it.
+    const QBrush window = palette().window();
+    const QRect all = rect();
+    p.fillRect(QRect(all.left(), all.top(), all.width(), area.top() - all.top()), window);
+    p.fillRect(QRect(all.left(), area.bottom() + 1, all.width(), all.bottom() - area.bottom()), window);
+    p.fillRect(QRect(all.left(), area.top(), area.left() - all.left(), area.height()), window);
+    p.fillRect(QRect(area.right() + 1, area.top(), all.right() - area.right(), area.height()), window);
     p.fillRect(area, Qt::white);
 
     drawGrid(p, area);

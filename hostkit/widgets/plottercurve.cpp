@@ -3,10 +3,10 @@
 //
 // Every point goes to the centre of its pixel. The points of one run that
 // fall in one pixel column lie on one vertical line there, and the segments
-// between them cover exactly the pixels from the lowest to the highest; so
-// a column needs only its first, lowest, highest and last point, in the
-// order they came, for the same picture: the segments into and out of the
-// column start and end at the same places. A column is found by comparing
+// between them cover exactly the line from the lowest to the highest, in
+// whatever order they came; so a column needs only its first, lowest,
+// highest and last point for the same picture: the segments into and out
+// of the column start and end at the same places. A column is found by comparing
 // x with the column's bounds, so sorted data costs no mapping per point.
 #include "plotter_p.h"
 
@@ -162,6 +162,10 @@ public:
         return true;
     }
 
+    // The x range of the column found last: [lowBound, highBound).
+    double lowBound() const { return m_low; }
+    double highBound() const { return m_high; }
+
 private:
     double bound(long long c) const { return m_scale.fromPixel(double(c)); }
 
@@ -184,16 +188,13 @@ double rowCentre(const Scale& y, double v)
 struct Column {
     long long index = 0;
     double first = 0.0, last = 0.0, low = 0.0, high = 0.0;
-    bool lowFirst = true; // the lowest came before the highest
     bool open = false;
 };
 
 void emitColumn(PolylineSink& sink, const Scale& y, const Column& c)
 {
     const double x = double(c.index) + 0.5;
-    const double a = c.lowFirst ? c.low : c.high;
-    const double b = c.lowFirst ? c.high : c.low;
-    for (double v : {c.first, a, b, c.last})
+    for (double v : {c.first, c.low, c.high, c.last})
         sink.point(QPointF(x, rowCentre(y, v)));
 }
 
@@ -240,7 +241,9 @@ void Plotter::drawCurve(QPainter& p, const QRect& area, const Curve& curve) cons
     }
 
     Column col;
-    for (std::size_t i = 0; i < n; ++i) {
+    const bool logY = sy.log;
+    std::size_t i = 0;
+    while (i < n) {
         const double x = d[2 * i], y = d[2 * i + 1];
         long long c = 0;
         if (!showable(sx, x) || !showable(sy, y) || !columns.find(x, &c)) {
@@ -248,22 +251,77 @@ void Plotter::drawCurve(QPainter& p, const QRect& area, const Curve& curve) cons
                 emitColumn(sink, sy, col);
             col.open = false;
             sink.breakLine();
+            ++i;
             continue;
         }
-        if (col.open && c == col.index) {
-            col.last = y;
-            if (y < col.low) {
-                col.low = y;
-                col.lowFirst = false;
-            } else if (y > col.high) {
-                col.high = y;
-                col.lowFirst = true;
-            }
-            continue;
-        }
-        if (col.open)
+        if (col.open && c != col.index)
             emitColumn(sink, sy, col);
-        col = Column{c, y, y, y, y, true, true};
+        if (!col.open || c != col.index)
+            col = Column{c, y, y, y, y, true};
+        // The rest of the column's run: where x leaves the column, then the
+        // extremes of y there on four independent chains, with no branch on
+        // the values, which noisy data would make unpredictable.
+        const double lo = columns.lowBound(), hi = columns.highBound();
+        std::size_t j = i + 1;
+        if (curve.sortedX) {
+            // Sorted x: the column ends at the first x >= hi, found by
+            // doubling steps and then halving them.
+            std::size_t step = 1;
+            while (j + step < n && d[2 * (j + step)] < hi)
+                step *= 2;
+            std::size_t a = j, b = std::min(n, j + step);
+            while (a < b) {
+                const std::size_t m = a + (b - a) / 2;
+                if (d[2 * m] < hi)
+                    a = m + 1;
+                else
+                    b = m;
+            }
+            j = a;
+        } else {
+            while (j < n && d[2 * j] >= lo && d[2 * j] < hi)
+                ++j;
+        }
+        double lows[4] = {col.low, col.low, col.low, col.low};
+        double highs[4] = {col.high, col.high, col.high, col.high};
+        // v * 0 is 0 for every finite v and NaN otherwise, so one sum tells
+        // whether the run holds a value that can't be shown.
+        double nonFinite[4] = {0.0, 0.0, 0.0, 0.0};
+        std::size_t k = i + 1;
+        for (; k + 4 <= j; k += 4) {
+            for (int u = 0; u < 4; ++u) {
+                const double v = d[2 * (k + u) + 1];
+                lows[u] = v < lows[u] ? v : lows[u];
+                highs[u] = v > highs[u] ? v : highs[u];
+                nonFinite[u] += v * 0.0;
+            }
+        }
+        for (; k < j; ++k) {
+            const double v = d[2 * k + 1];
+            lows[0] = v < lows[0] ? v : lows[0];
+            highs[0] = v > highs[0] ? v : highs[0];
+            nonFinite[0] += v * 0.0;
+        }
+        const double runLow = std::min({lows[0], lows[1], lows[2], lows[3]});
+        const bool bad = !(nonFinite[0] + nonFinite[1] + nonFinite[2] + nonFinite[3] == 0.0)
+                         || (logY && !(runLow > 0.0));
+        if (bad) {
+            // A value that can't be shown ends the run; rare, so done again
+            // one by one up to it.
+            j = i + 1;
+            while (j < n && d[2 * j] >= lo && d[2 * j] < hi && showable(sy, d[2 * j + 1]))
+                ++j;
+            std::fill(lows, lows + 4, col.low);
+            std::fill(highs, highs + 4, col.high);
+            for (k = i + 1; k < j; ++k) {
+                lows[0] = std::min(lows[0], d[2 * k + 1]);
+                highs[0] = std::max(highs[0], d[2 * k + 1]);
+            }
+        }
+        col.low = std::min({lows[0], lows[1], lows[2], lows[3]});
+        col.high = std::max({highs[0], highs[1], highs[2], highs[3]});
+        col.last = d[2 * (j - 1) + 1];
+        i = j;
     }
     if (col.open)
         emitColumn(sink, sy, col);
