@@ -386,6 +386,7 @@ void EditBodePlotProbeDialog2::formAccepted()
         ui.spinnerPhaseColor->setValue(-1);
     if (!ui.gbUseSeparateGraph->isChecked())
         ui.leGraphName->clear();
+    accept();
 }
 
 void EditBodePlotProbeDialog2::toolButtonSaveSettings_clicked()

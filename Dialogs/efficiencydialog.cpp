@@ -334,6 +334,7 @@ void EfficiencyDialog::formAccepted()
     if (g_mode == ProbeSelection) {
         for (ListBox* list : {ui.listBoxAllProbes, ui.listBoxInputProbes, ui.listBoxOutputProbes})
             list->selectAll();
+        accept();
         return;
     }
     ui.listBoxInputProbes->setOutElementIndex(-1);
@@ -341,12 +342,14 @@ void EfficiencyDialog::formAccepted()
     const ModeWord* word = modeWord(g_mode);
     if (!word || !word->answer) {
         ui.listBoxAllProbes->setOutElementIndex(-1);
+        accept();
         return;
     }
     // Element 0 tells the script which button ended the dialog.
     ui.listBoxAllProbes->clear();
     ui.listBoxAllProbes->addItem(QString::fromLatin1(word->answer));
     ui.listBoxAllProbes->selectAll();
+    accept();
 }
 
 void EfficiencyDialog::runHelp()
