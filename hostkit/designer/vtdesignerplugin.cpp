@@ -93,6 +93,7 @@ public:
             {QStringLiteral("PushButton"), tr("Button with an action text"), false, maker<PushButton>()},
             {QStringLiteral("OkButton"), tr("Accepts the dialog"), false, maker<OkButton>()},
             {QStringLiteral("CancelButton"), tr("Rejects the dialog"), false, maker<CancelButton>()},
+            {QStringLiteral("Plotter"), tr("Curves over linear or logarithmic axes"), false, maker<Plotter>()},
         };
         for (const WidgetInfo& info : widgets)
             m_widgets << new BoundWidgetInterface(info, this);
