@@ -10,6 +10,7 @@
 #include "ui_efficiencydialog.h"
 
 #include <QDialog>
+#include <QLayout>
 #include <QShowEvent>
 
 #include <cstdio>
@@ -120,6 +121,9 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    void fitToContents();
+
+private:
     // Moves the selected probes of from to to, selected there.
     void moveProbes(ListBox* from, ListBox* to);
     // Clears the other lists' selections; true if list has a selected item.
@@ -209,12 +213,21 @@ void EfficiencyDialog::start(UserFunctionInterface* call)
         setWindowTitle(info.at(1));
 }
 
+// The size the mode's contents ask for. adjustSize() would also hold the
+// window to two thirds of a small screen and squeeze the lists to a line.
+void EfficiencyDialog::fitToContents()
+{
+    if (layout())
+        layout()->activate();
+    resize(sizeHint().expandedTo(minimumSizeHint()));
+}
+
 void EfficiencyDialog::showEvent(QShowEvent* event)
 {
     Ui::EfficiencyDialog& ui = *m_ui;
     if (g_mode != ProbeSelection) {
         ui.okButton->setEnabled(true);
-        adjustSize();
+        fitToContents();
         QDialog::showEvent(event);
         return;
     }
@@ -239,7 +252,7 @@ void EfficiencyDialog::showEvent(QShowEvent* event)
     all->setFocus();
     listBoxAllProbes_clicked();
     validateSelections();
-    adjustSize();
+    fitToContents();
     QDialog::showEvent(event);
 }
 

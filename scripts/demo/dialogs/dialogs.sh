@@ -150,11 +150,11 @@ show call EditBodePlotProbeDialog2 '["loop gain", "-1", "1", "Loop gain", "defau
 show call EfficiencyDialog '["yesno", "warn"]' '[]' '["Simulation results are out of date",
   "The schematic changed since the last run.<br>Run the simulation again before computing the efficiency?"]' \
   '["4300", "Efficiency Calculator"]' --answer $d/efficiency-yesno.json
-# The probe selection stops being modal while it runs; it joins the demo
-# once the answer driver follows such dialogs.
-# show call EfficiencyDialog '["select"]' '["P(V1)|P(Q1)|P(Q2)|P(R_load)|P(D1)", "", "", "P(V1)"]' \
-#   '["Choose the power probes", "Move the <b>source</b> probes to the inputs and the <b>load</b> probes to the outputs."]' \
-#   '["4300"]' --answer $d/efficiency-select.json
+# The probe selection stops being modal while it runs, so that the user can
+# look at the schematic; the answer driver follows it all the same.
+show call EfficiencyDialog '["select"]' '["P(V1)|P(Q1)|P(Q2)|P(R_load)|P(D1)", "", "", "P(V1)"]' \
+  '["Choose the power probes", "Move the <b>source</b> probes to the inputs and the <b>load</b> probes to the outputs."]' \
+  '["4300"]' --answer $d/efficiency-select.json
 show call LoopForgeEditClocksDialog "[\"0;1;1;'sysclk';10Meg;50;0\", \"1;1;1;'adc';100k;50;0\",
   \"2;1;0;'pwm';20k;50;1u\", \"3;0;0;'user3';1k;50;0\", \"4;0;0;'user4';1k;50;0\", \"5;0;0;'user5';1k;50;0\",
   \"6;0;0;'user6';1k;50;0\", \"7;0;0;'user7';1k;50;0\", \"1\"]" \
