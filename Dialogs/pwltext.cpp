@@ -44,7 +44,7 @@ bool parse(const QString& text, QStringList* flat)
     bool ok = false;
     const qlonglong segments = value.toLongLong(&ok);
     const qlonglong fields = tokens.size() - 1;
-    if (!ok || segments < 0 || (segments + 1) * 2 != fields)
+    if (!ok || segments < 0 || segments >= fields || (segments + 1) * 2 != fields)
         return false;
     QStringList out;
     out.reserve(int(fields));
