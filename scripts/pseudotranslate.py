@@ -17,7 +17,7 @@ ACCENTS = str.maketrans(
     "áéíóúýçñšÁÉÍÓÚÝÇÑŠ",
 )
 # Runs that must pass through untouched.
-KEEP = re.compile(r"(%L?\d+|%n|<[^>]*>|&[a-zA-Z#0-9]+;|&&|\\n|\n)")
+KEEP = re.compile(r"(<head>.*?</head>|%L?\d+|%n|<[^>]*>|&[a-zA-Z#0-9]+;|&&|\\n|\n)", re.S)
 PAD = "~"
 
 
@@ -33,9 +33,20 @@ def pseudo(text: str) -> str:
         else:
             out.append(part.translate(ACCENTS))
             letters += len(part)
-    grown = "".join(out)
     pad = PAD * max(1, round(letters * 0.4) - 2)
-    return "[" + grown + pad + "]"
+    if not text.lstrip().startswith("<"):
+        return "[" + "".join(out) + pad + "]"
+    # Rich text: the brackets go around the visible text, inside the markup;
+    # outside it they would stand in paragraphs of their own.
+    shown = [i for i in range(0, len(out), 2) if out[i].strip()]
+    if not shown:
+        return text
+    first, last = shown[0], shown[-1]
+    lead = len(out[first]) - len(out[first].lstrip())
+    out[first] = out[first][:lead] + "[" + out[first][lead:]
+    trail = len(out[last].rstrip())
+    out[last] = out[last][:trail] + pad + "]" + out[last][trail:]
+    return "".join(out)
 
 
 def main(src: str, dst: str) -> None:

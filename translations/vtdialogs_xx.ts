@@ -1023,7 +1023,7 @@ fór éxámplé óñé tákéñ fróm á dátá šhéét.~~~~~~~~~~~~~~~~~~~~~~~
     </message>
     <message>
         <source>&lt;p align="center"&gt;&lt;b&gt;Continuous / Discrete Time Filters&lt;/b&gt;&lt;/p&gt;</source>
-        <translation>[&lt;p align="center"&gt;&lt;b&gt;Çóñtíñúóúš / Díšçrété Tímé Fíltérš&lt;/b&gt;&lt;/p&gt;~~~~~~~~~~~~]</translation>
+        <translation>&lt;p align="center"&gt;&lt;b&gt;[Çóñtíñúóúš / Díšçrété Tímé Fíltérš~~~~~~~~~~~~]&lt;/b&gt;&lt;/p&gt;</translation>
     </message>
     <message>
         <source>This component can model either a continuous time filter or a discrete time filter.
@@ -1316,7 +1316,7 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     </message>
     <message>
         <source>&lt;p&gt;The threshold and the hysteresis set the input voltage thresholds:&lt;br/&gt;TH = T + H/2 and TL = T - H/2.&lt;/p&gt;&lt;img src=":/threshold_hysteresis.png"/&gt;</source>
-        <translation>[&lt;p&gt;Thé thréšhóld áñd thé hýštéréšíš šét thé íñpút vóltágé thréšhóldš:&lt;br/&gt;TH = T + H/2 áñd TL = T - H/2.&lt;/p&gt;&lt;img src=":/threshold_hysteresis.png"/&gt;~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>&lt;p&gt;[Thé thréšhóld áñd thé hýštéréšíš šét thé íñpút vóltágé thréšhóldš:&lt;br/&gt;TH = T + H/2 áñd TL = T - H/2.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]&lt;/p&gt;&lt;img src=":/threshold_hysteresis.png"/&gt;</translation>
     </message>
     <message>
         <source>2.5</source>
@@ -1476,7 +1476,7 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     </message>
     <message>
         <source>&lt;b&gt;Level 0&lt;/b&gt; models the output switches as simple on/off resistances.&lt;br/&gt;&lt;b&gt;Level 1&lt;/b&gt; includes the saturation region where switches are current limited.&lt;br/&gt;&lt;b&gt;Level 2&lt;/b&gt; models the output switches as 3-segment PWL resistors.&lt;br/&gt;Compatible with Version 8.0+. Click on the &lt;b&gt;Help&lt;/b&gt; button for more information.&lt;p&gt;To enter a expression containing parameter names enclosed in {}, right-click and select the Parameterize context menu option.&lt;/p&gt;</source>
-        <translation>[&lt;b&gt;Lévél 0&lt;/b&gt; módélš thé óútpút šwítçhéš áš šímplé óñ/óff réšíštáñçéš.&lt;br/&gt;&lt;b&gt;Lévél 1&lt;/b&gt; íñçlúdéš thé šátúrátíóñ régíóñ whéré šwítçhéš áré çúrréñt límítéd.&lt;br/&gt;&lt;b&gt;Lévél 2&lt;/b&gt; módélš thé óútpút šwítçhéš áš 3-šégméñt PWL réšíštórš.&lt;br/&gt;Çómpátíblé wíth Véršíóñ 8.0+. Çlíçk óñ thé &lt;b&gt;Hélp&lt;/b&gt; búttóñ fór móré íñfórmátíóñ.&lt;p&gt;Tó éñtér á éxpréššíóñ çóñtáíñíñg párámétér ñáméš éñçlóšéd íñ {}, ríght-çlíçk áñd šéléçt thé Párámétérízé çóñtéxt méñú óptíóñ.&lt;/p&gt;~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>&lt;b&gt;[Lévél 0&lt;/b&gt; módélš thé óútpút šwítçhéš áš šímplé óñ/óff réšíštáñçéš.&lt;br/&gt;&lt;b&gt;Lévél 1&lt;/b&gt; íñçlúdéš thé šátúrátíóñ régíóñ whéré šwítçhéš áré çúrréñt límítéd.&lt;br/&gt;&lt;b&gt;Lévél 2&lt;/b&gt; módélš thé óútpút šwítçhéš áš 3-šégméñt PWL réšíštórš.&lt;br/&gt;Çómpátíblé wíth Véršíóñ 8.0+. Çlíçk óñ thé &lt;b&gt;Hélp&lt;/b&gt; búttóñ fór móré íñfórmátíóñ.&lt;p&gt;Tó éñtér á éxpréššíóñ çóñtáíñíñg párámétér ñáméš éñçlóšéd íñ {}, ríght-çlíçk áñd šéléçt thé Párámétérízé çóñtéxt méñú óptíóñ.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
@@ -1558,7 +1558,7 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     </message>
     <message>
         <source>&lt;b&gt;Level 0&lt;/b&gt; is an ideal capacitor with no parasitic elements.&lt;br/&gt;&lt;b&gt;Level 1&lt;/b&gt; is a capacitor with leakage resistance.&lt;br/&gt;&lt;b&gt;Level 2&lt;/b&gt; is a capacitor with ESR and leakage resistance.&lt;br/&gt;&lt;b&gt;Level 3&lt;/b&gt; is a capacitor with ESR, ESL and leakage resistance.&lt;p&gt;To enter an expression containing parameter names enclosed in {}, right-click and select the Parameterize context menu option.&lt;/p&gt;</source>
-        <translation>[&lt;b&gt;Lévél 0&lt;/b&gt; íš áñ ídéál çápáçítór wíth ñó párášítíç éléméñtš.&lt;br/&gt;&lt;b&gt;Lévél 1&lt;/b&gt; íš á çápáçítór wíth léákágé réšíštáñçé.&lt;br/&gt;&lt;b&gt;Lévél 2&lt;/b&gt; íš á çápáçítór wíth ÉŠR áñd léákágé réšíštáñçé.&lt;br/&gt;&lt;b&gt;Lévél 3&lt;/b&gt; íš á çápáçítór wíth ÉŠR, ÉŠL áñd léákágé réšíštáñçé.&lt;p&gt;Tó éñtér áñ éxpréššíóñ çóñtáíñíñg párámétér ñáméš éñçlóšéd íñ {}, ríght-çlíçk áñd šéléçt thé Párámétérízé çóñtéxt méñú óptíóñ.&lt;/p&gt;~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>&lt;b&gt;[Lévél 0&lt;/b&gt; íš áñ ídéál çápáçítór wíth ñó párášítíç éléméñtš.&lt;br/&gt;&lt;b&gt;Lévél 1&lt;/b&gt; íš á çápáçítór wíth léákágé réšíštáñçé.&lt;br/&gt;&lt;b&gt;Lévél 2&lt;/b&gt; íš á çápáçítór wíth ÉŠR áñd léákágé réšíštáñçé.&lt;br/&gt;&lt;b&gt;Lévél 3&lt;/b&gt; íš á çápáçítór wíth ÉŠR, ÉŠL áñd léákágé réšíštáñçé.&lt;p&gt;Tó éñtér áñ éxpréššíóñ çóñtáíñíñg párámétér ñáméš éñçlóšéd íñ {}, ríght-çlíçk áñd šéléçt thé Párámétérízé çóñtéxt méñú óptíóñ.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Level 0</source>
@@ -1746,7 +1746,7 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     </message>
     <message>
         <source>&lt;b&gt;Level 0&lt;/b&gt; is an inductor with a parallel shunt resistance.&lt;br/&gt;&lt;b&gt;Level 1&lt;/b&gt; is an inductor with a parallel shunt resistance and equivalent series resistance (ESR).&lt;p&gt;To enter an expression containing parameter names enclosed in {}, right-click and select the Parameterize context menu option.&lt;/p&gt;</source>
-        <translation>[&lt;b&gt;Lévél 0&lt;/b&gt; íš áñ íñdúçtór wíth á párállél šhúñt réšíštáñçé.&lt;br/&gt;&lt;b&gt;Lévél 1&lt;/b&gt; íš áñ íñdúçtór wíth á párállél šhúñt réšíštáñçé áñd éqúíváléñt šéríéš réšíštáñçé (ÉŠR).&lt;p&gt;Tó éñtér áñ éxpréššíóñ çóñtáíñíñg párámétér ñáméš éñçlóšéd íñ {}, ríght-çlíçk áñd šéléçt thé Párámétérízé çóñtéxt méñú óptíóñ.&lt;/p&gt;~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>&lt;b&gt;[Lévél 0&lt;/b&gt; íš áñ íñdúçtór wíth á párállél šhúñt réšíštáñçé.&lt;br/&gt;&lt;b&gt;Lévél 1&lt;/b&gt; íš áñ íñdúçtór wíth á párállél šhúñt réšíštáñçé áñd éqúíváléñt šéríéš réšíštáñçé (ÉŠR).&lt;p&gt;Tó éñtér áñ éxpréššíóñ çóñtáíñíñg párámétér ñáméš éñçlóšéd íñ {}, ríght-çlíçk áñd šéléçt thé Párámétérízé çóñtéxt méñú óptíóñ.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
@@ -2238,23 +2238,23 @@ wíth á déšígñátéd ñúmbér óf bítš.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Label as displayed on graph&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>[&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Lábél áš díšpláýéd óñ gráph&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;~~~~~~~~~]</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;[Lábél áš díšpláýéd óñ gráph~~~~~~~~~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Expression. Enter an expression that&lt;br/&gt;returns the measurement value.&lt;br/&gt;Use 'data' to access the curve's data.&lt;br/&gt;E.g. to get the mean squared use:&lt;br/&gt;&lt;br/&gt;Mean1(data*data).&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>[&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Éxpréššíóñ. Éñtér áñ éxpréššíóñ thát&lt;br/&gt;rétúrñš thé méášúréméñt válúé.&lt;br/&gt;Úšé 'dátá' tó áççéšš thé çúrvé'š dátá.&lt;br/&gt;É.g. tó gét thé méáñ šqúáréd úšé:&lt;br/&gt;&lt;br/&gt;Méáñ1(dátá*dátá).&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;[Éxpréššíóñ. Éñtér áñ éxpréššíóñ thát&lt;br/&gt;rétúrñš thé méášúréméñt válúé.&lt;br/&gt;Úšé 'dátá' tó áççéšš thé çúrvé'š dátá.&lt;br/&gt;É.g. tó gét thé méáñ šqúáréd úšé:&lt;br/&gt;&lt;br/&gt;Méáñ1(dátá*dátá).~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Format template. Leave blank&lt;br/&gt;to use default&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>[&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Fórmát témpláté. Léávé bláñk&lt;br/&gt;tó úšé défáúlt&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;~~~~~~~~~~~~~~~]</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;[Fórmát témpláté. Léávé bláñk&lt;br/&gt;tó úšé défáúlt~~~~~~~~~~~~~~~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Full description. \n siginifies new line&lt;br/&gt;(Displayed below list box. Optional)&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>[&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Fúll déšçríptíóñ. \n šígíñífíéš ñéw líñé&lt;br/&gt;(Díšpláýéd bélów líšt bóx. Óptíóñál)&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;[Fúll déšçríptíóñ. \n šígíñífíéš ñéw líñé&lt;br/&gt;(Díšpláýéd bélów líšt bóx. Óptíóñál)~~~~~~~~~~~~~~~~~~~~~~~~~~~~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Requires cursors to be switched on&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>[&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Réqúíréš çúršórš tó bé šwítçhéd óñ&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;~~~~~~~~~~~~]</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;[Réqúíréš çúršórš tó bé šwítçhéd óñ~~~~~~~~~~~~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>&amp;Ok</source>
@@ -2474,7 +2474,7 @@ tó úšé défáúlt~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>&lt;p&gt;There are three ways to choose the SPICE model:&lt;/p&gt;&lt;p&gt;&lt;img src=":/combo_box_mouse_cursor_transparent.png"&gt; pick a recently used model from the list,&lt;/p&gt;&lt;p&gt;&lt;img src=":/select_button_mouse_cursor_transparent.png"&gt; press "Select..." and choose from all installed models,&lt;/p&gt;&lt;p&gt;or type the name of the model. The name is &lt;b&gt;NOT&lt;/b&gt; cap sensitive.&lt;/p&gt;</source>
-        <translation>[&lt;p&gt;Théré áré thréé wáýš tó çhóóšé thé ŠPÍÇÉ módél:&lt;/p&gt;&lt;p&gt;&lt;img src=":/combo_box_mouse_cursor_transparent.png"&gt; píçk á réçéñtlý úšéd módél fróm thé líšt,&lt;/p&gt;&lt;p&gt;&lt;img src=":/select_button_mouse_cursor_transparent.png"&gt; préšš "Šéléçt..." áñd çhóóšé fróm áll íñštálléd módélš,&lt;/p&gt;&lt;p&gt;ór týpé thé ñámé óf thé módél. Thé ñámé íš &lt;b&gt;ÑÓT&lt;/b&gt; çáp šéñšítívé.&lt;/p&gt;~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>&lt;p&gt;[Théré áré thréé wáýš tó çhóóšé thé ŠPÍÇÉ módél:&lt;/p&gt;&lt;p&gt;&lt;img src=":/combo_box_mouse_cursor_transparent.png"&gt; píçk á réçéñtlý úšéd módél fróm thé líšt,&lt;/p&gt;&lt;p&gt;&lt;img src=":/select_button_mouse_cursor_transparent.png"&gt; préšš "Šéléçt..." áñd çhóóšé fróm áll íñštálléd módélš,&lt;/p&gt;&lt;p&gt;ór týpé thé ñámé óf thé módél. Thé ñámé íš &lt;b&gt;ÑÓT&lt;/b&gt; çáp šéñšítívé.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]&lt;/p&gt;</translation>
     </message>
     <message>
         <source>The label may hold only letters, digits and the underscore. It describes the device
@@ -2751,15 +2751,15 @@ párámétérš fróm thé módél šéléçtéd íñ thíš líšt.~~~~~~~~~~~~
     </message>
     <message>
         <source>&lt;br/&gt;&lt;nobr&gt;The Parameter value doesn't begin with an opening curly brace "{"&lt;/nobr&gt;</source>
-        <translation>[&lt;br/&gt;&lt;nobr&gt;Thé Párámétér válúé dóéšñ't bégíñ wíth áñ ópéñíñg çúrlý bráçé "{"&lt;/nobr&gt;~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>&lt;br/&gt;&lt;nobr&gt;[Thé Párámétér válúé dóéšñ't bégíñ wíth áñ ópéñíñg çúrlý bráçé "{"~~~~~~~~~~~~~~~~~~~~~~~~]&lt;/nobr&gt;</translation>
     </message>
     <message>
         <source>&lt;br/&gt;&lt;nobr&gt;The Parameter value doesn't end with a closing curly brace "}"&lt;/nobr&gt;</source>
-        <translation>[&lt;br/&gt;&lt;nobr&gt;Thé Párámétér válúé dóéšñ't éñd wíth á çlóšíñg çúrlý bráçé "}"&lt;/nobr&gt;~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>&lt;br/&gt;&lt;nobr&gt;[Thé Párámétér válúé dóéšñ't éñd wíth á çlóšíñg çúrlý bráçé "}"~~~~~~~~~~~~~~~~~~~~~~~]&lt;/nobr&gt;</translation>
     </message>
     <message>
         <source>&lt;br/&gt;The Parameter value contains spaces</source>
-        <translation>[&lt;br/&gt;Thé Párámétér válúé çóñtáíñš špáçéš~~~~~~~~~~~~]</translation>
+        <translation>&lt;br/&gt;[Thé Párámétér válúé çóñtáíñš špáçéš~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Error: Incorrect parameter name</source>
@@ -2810,7 +2810,7 @@ including symbol</source>
     </message>
     <message>
         <source>&lt;html&gt;&lt;body&gt;&lt;p&gt;Saves the schematic as a &lt;b&gt;component&lt;/b&gt; file: the symbol goes into the file with the schematic, so the file can be placed in another design without installing a symbol library.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>[&lt;html&gt;&lt;body&gt;&lt;p&gt;Šávéš thé šçhémátíç áš á &lt;b&gt;çómpóñéñt&lt;/b&gt; fílé: thé šýmból góéš íñtó thé fílé wíth thé šçhémátíç, šó thé fílé çáñ bé pláçéd íñ áñóthér déšígñ wíthóút íñštállíñg á šýmból líbrárý.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>&lt;html&gt;&lt;body&gt;&lt;p&gt;[Šávéš thé šçhémátíç áš á &lt;b&gt;çómpóñéñt&lt;/b&gt; fílé: thé šýmból góéš íñtó thé fílé wíth thé šçhémátíç, šó thé fílé çáñ bé pláçéd íñ áñóthér déšígñ wíthóút íñštállíñg á šýmból líbrárý.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>File</source>
@@ -2880,7 +2880,7 @@ including symbol</source>
     </message>
     <message>
         <source>&lt;b&gt;Shunt Resistance Calculator&lt;/b&gt;</source>
-        <translation>[&lt;b&gt;Šhúñt Réšíštáñçé Çálçúlátór&lt;/b&gt;~~~~~~~~~]</translation>
+        <translation>&lt;b&gt;[Šhúñt Réšíštáñçé Çálçúlátór~~~~~~~~~]&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Computes a new shunt resistance from the inductor value and the desired upper frequency limit, at which the impedance of the inductor goes from inductive to resistive. Enter the frequency limit in the Frequency box; the resistance is computed at once. Ok returns the value to the editing dialog, Cancel returns without changing it.</source>
@@ -2892,7 +2892,7 @@ including symbol</source>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;H&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>[&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;H&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;~]</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;[H~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Frequency</source>
@@ -2916,7 +2916,7 @@ including symbol</source>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Ohms&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>[&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Óhmš&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;~]</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;[Óhmš~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Help</source>
