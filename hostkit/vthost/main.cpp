@@ -13,8 +13,10 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProxyStyle>
+#include <QRegularExpression>
 #include <QStringList>
 #include <QStyleFactory>
+#include <QStyleOption>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -278,7 +280,9 @@ void quietOffscreenNoise(QtMsgType type, const QMessageLogContext& context, cons
 }
 
 // Fusion measures a group box title by its ink and clips the last glyph
-// of some titles by a pixel; a little room keeps every title whole.
+// of some titles; the shortfall grows with the title's length (a long
+// translated title lost most of a letter), so the title gets the room its
+// text advances by, and a little for an overhanging last glyph.
 class HostStyle : public QProxyStyle {
 public:
     HostStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
@@ -287,8 +291,14 @@ public:
                          SubControl sub, const QWidget* widget) const override
     {
         QRect r = QProxyStyle::subControlRect(control, option, sub, widget);
-        if (control == CC_GroupBox && sub == SC_GroupBoxLabel)
-            r.adjust(0, 0, 3, 0);
+        const auto* box = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
+        if (control != CC_GroupBox || sub != SC_GroupBoxLabel || !box || box->text.isEmpty())
+            return r;
+        QString shown = box->text;
+        shown.remove(QRegularExpression(QStringLiteral("&(?!&)")));
+        const int needed = box->fontMetrics.horizontalAdvance(shown) + 3;
+        if (r.width() < needed)
+            r.setRight(qMin(r.left() + needed - 1, option->rect.right()));
         return r;
     }
 };
