@@ -21,31 +21,46 @@ KEEP = re.compile(r"(<head>.*?</head>|%L?\d+|%n|<[^>]*>|&[a-zA-Z#0-9]+;|&&|\\n|\
 PAD = "~"
 
 
+# Kept runs that end a line as shown.
+BREAK = re.compile(r"\n|<br\s*/?>|</p>", re.I)
+
+
+def grow(run: str, tail: str) -> str:
+    """The run with tail put after its last visible letter."""
+    cut = len(run.rstrip())
+    return run[:cut] + tail + run[cut:]
+
+
 def pseudo(text: str) -> str:
     if not text.strip():
         return text
     parts = KEEP.split(text)
-    out = []
-    letters = 0
-    for i, part in enumerate(parts):
-        if i % 2:  # a kept run
-            out.append(part)
-        else:
-            out.append(part.translate(ACCENTS))
-            letters += len(part)
-    pad = PAD * max(1, round(letters * 0.4) - 2)
-    if not text.lstrip().startswith("<"):
-        return "[" + "".join(out) + pad + "]"
-    # Rich text: the brackets go around the visible text, inside the markup;
-    # outside it they would stand in paragraphs of their own.
+    out = [part if i % 2 else part.translate(ACCENTS) for i, part in enumerate(parts)]
     shown = [i for i in range(0, len(out), 2) if out[i].strip()]
     if not shown:
         return text
-    first, last = shown[0], shown[-1]
+    # Each line grows by its own share, as a translated line would; one pad
+    # for all at the end would only make the widest line wider. The brackets
+    # go around the visible text, inside any markup: outside it they would
+    # stand in paragraphs of their own.
+    letters, last, end = 0, None, None
+    for i, part in enumerate(parts):
+        if i % 2 == 0:
+            if part.strip():
+                letters, last = letters + len(part), i
+        elif BREAK.fullmatch(part):
+            if last is not None and letters:
+                out[last] = grow(out[last], PAD * max(1, round(letters * 0.4)))
+                letters = 0
+            continue
+        elif not part.startswith("<"):  # a placeholder, an entity: shown
+            last = i
+        end = last
+    pad = PAD * max(1, round(letters * 0.4) - 2) if letters else ""
+    out[end] = grow(out[end], pad + "]")
+    first = shown[0]
     lead = len(out[first]) - len(out[first].lstrip())
     out[first] = out[first][:lead] + "[" + out[first][lead:]
-    trail = len(out[last].rstrip())
-    out[last] = out[last][:trail] + pad + "]" + out[last][trail:]
     return "".join(out)
 
 

@@ -31,9 +31,9 @@
         <source>Automatically copy extracted 
 
 parameters to User-defined parameters</source>
-        <translation>[Áútómátíçállý çópý éxtráçtéd 
+        <translation>[Áútómátíçállý çópý éxtráçtéd~~~~~~~~~~~~ 
 
-párámétérš tó Úšér-défíñéd párámétérš~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+párámétérš tó Úšér-défíñéd párámétérš~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Default model extraction test conditions</source>
@@ -102,8 +102,8 @@ párámétérš tó Úšér-défíñéd párámétérš~~~~~~~~~~~~~~~~~~~~~~~~]
     <message>
         <source>The extraction draws a straight line between two points on the
 drain current vs. gate drive voltage curves, set here as ratios of the peak drain current.</source>
-        <translation>[Thé éxtráçtíóñ dráwš á štráíght líñé bétwééñ twó póíñtš óñ thé
-dráíñ çúrréñt vš. gáté drívé vóltágé çúrvéš, šét héré áš rátíóš óf thé péák dráíñ çúrréñt.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thé éxtráçtíóñ dráwš á štráíght líñé bétwééñ twó póíñtš óñ thé~~~~~~~~~~~~~~~~~~~~~~~~~
+dráíñ çúrréñt vš. gáté drívé vóltágé çúrvéš, šét héré áš rátíóš óf thé péák dráíñ çúrréñt.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Peak curve fit point expressed as the ratio of peak drain current</source>
@@ -164,8 +164,8 @@ dráíñ çúrréñt vš. gáté drívé vóltágé çúrvéš, šét héré á�
     <message>
         <source>The extraction draws a straight line between two points on the
 collector current vs. gate drive voltage curves, set here as ratios of the peak collector current.</source>
-        <translation>[Thé éxtráçtíóñ dráwš á štráíght líñé bétwééñ twó póíñtš óñ thé
-çólléçtór çúrréñt vš. gáté drívé vóltágé çúrvéš, šét héré áš rátíóš óf thé péák çólléçtór çúrréñt.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thé éxtráçtíóñ dráwš á štráíght líñé bétwééñ twó póíñtš óñ thé~~~~~~~~~~~~~~~~~~~~~~~~~
+çólléçtór çúrréñt vš. gáté drívé vóltágé çúrvéš, šét héré áš rátíóš óf thé péák çólléçtór çúrréñt.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Peak curve fit point expressed as the ratio of peak collector current</source>
@@ -215,9 +215,9 @@ collector current vs. gate drive voltage curves, set here as ratios of the peak 
         <source>Automatically copy translated
 
 parameters to User-defined parameters</source>
-        <translation>[Áútómátíçállý çópý tráñšlátéd
+        <translation>[Áútómátíçállý çópý tráñšlátéd~~~~~~~~~~~~
 
-párámétérš tó Úšér-défíñéd párámétérš~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+párámétérš tó Úšér-défíñéd párámétérš~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Default translation parameters</source>
@@ -330,9 +330,9 @@ párámétérš tó Úšér-défíñéd párámétérš~~~~~~~~~~~~~~~~~~~~~~~~]
         <source>Use these options when a run stops with "No convergence in transient analysis"
 or "Cannot find DC operating point". Try advanced iteration first: it has no
 disadvantages other than a slight loss of speed.</source>
-        <translation>[Úšé théšé óptíóñš whéñ á rúñ štópš wíth "Ñó çóñvérgéñçé íñ tráñšíéñt áñálýšíš"
-ór "Çáññót fíñd DÇ ópérátíñg póíñt". Trý ádváñçéd ítérátíóñ fíršt: ít háš ñó
-díšádváñtágéš óthér tháñ á šlíght lóšš óf špééd.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Úšé théšé óptíóñš whéñ á rúñ štópš wíth "Ñó çóñvérgéñçé íñ tráñšíéñt áñálýšíš"~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
+ór "Çáññót fíñd DÇ ópérátíñg póíñt". Trý ádváñçéd ítérátíóñ fíršt: ít háš ñó~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
+díšádváñtágéš óthér tháñ á šlíght lóšš óf špééd.~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Advanced iteration</source>
@@ -347,10 +347,10 @@ díšádváñtágéš óthér tháñ á šlíght lóšš óf špééd.~~~~~~~~~~
 slow a simulation down by 5 to 10%, but it can also speed it up. Not all types
 of device support it yet; you will be warned if your circuit holds one that
 does not.</source>
-        <translation>[Ádváñçéd ítérátíóñ ñéárlý álwáýš ímpróvéš çóñvérgéñçé áñd áççúráçý. Ít máý
-šlów á šímúlátíóñ dówñ bý 5 tó 10%, bút ít çáñ álšó špééd ít úp. Ñót áll týpéš
-óf dévíçé šúppórt ít ýét; ýóú wíll bé wárñéd íf ýóúr çírçúít hóldš óñé thát
-dóéš ñót.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Ádváñçéd ítérátíóñ ñéárlý álwáýš ímpróvéš çóñvérgéñçé áñd áççúráçý. Ít máý~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
+šlów á šímúlátíóñ dówñ bý 5 tó 10%, bút ít çáñ álšó špééd ít úp. Ñót áll týpéš~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
+óf dévíçé šúppórt ít ýét; ýóú wíll bé wárñéd íf ýóúr çírçúít hóldš óñé thát~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
+dóéš ñót.~~]</translation>
     </message>
     <message>
         <source>Tolerances</source>
@@ -371,8 +371,8 @@ dóéš ñót.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
     <message>
         <source>The absolute current tolerance defaults to 1pA, which is sometimes too low. A
 value of up to 1nA often solves convergence problems.</source>
-        <translation>[Thé ábšólúté çúrréñt tóléráñçé défáúltš tó 1pÁ, whíçh íš šómétíméš tóó lów. Á
-válúé óf úp tó 1ñÁ óftéñ šólvéš çóñvérgéñçé próblémš.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thé ábšólúté çúrréñt tóléráñçé défáúltš tó 1pÁ, whíçh íš šómétíméš tóó lów. Á~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
+válúé óf úp tó 1ñÁ óftéñ šólvéš çóñvérgéñçé próblémš.~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Time step</source>
@@ -389,8 +389,8 @@ válúé óf úp tó 1ñÁ óftéñ šólvéš çóñvérgéñçé próblémš.~
     <message>
         <source>A minimum time step of 1f or less can sometimes help transient analysis to
 converge, and does not significantly affect the simulation time.</source>
-        <translation>[Á míñímúm tímé štép óf 1f ór léšš çáñ šómétíméš hélp tráñšíéñt áñálýšíš tó
-çóñvérgé, áñd dóéš ñót šígñífíçáñtlý áfféçt thé šímúlátíóñ tímé.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Á míñímúm tímé štép óf 1f ór léšš çáñ šómétíméš hélp tráñšíéñt áñálýšíš tó~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
+çóñvérgé, áñd dóéš ñót šígñífíçáñtlý áfféçt thé šímúlátíóñ tímé.~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Slew rate for discontinuous sources</source>
@@ -416,9 +416,9 @@ converge, and does not significantly affect the simulation time.</source>
         <source>Applies to arbitrary sources with expressions of the form IF(expression,
 constant, constant), common in power controller models, and removes their
 discontinuity. Do not set it lower than 1E9.</source>
-        <translation>[Ápplíéš tó árbítrárý šóúrçéš wíth éxpréššíóñš óf thé fórm ÍF(éxpréššíóñ,
-çóñštáñt, çóñštáñt), çómmóñ íñ pówér çóñtróllér módélš, áñd rémóvéš théír
-díšçóñtíñúítý. Dó ñót šét ít lówér tháñ 1É9.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Ápplíéš tó árbítrárý šóúrçéš wíth éxpréššíóñš óf thé fórm ÍF(éxpréššíóñ,~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
+çóñštáñt, çóñštáñt), çómmóñ íñ pówér çóñtróllér módélš, áñd rémóvéš théír~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
+díšçóñtíñúítý. Dó ñót šét ít lówér tháñ 1É9.~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Shunt capacitance</source>
@@ -441,10 +441,10 @@ díšçóñtíñúítý. Dó ñót šét ít lówér tháñ 1É9.~~~~~~~~~~~~~~~
 nodes, that is nodes not in a subcircuit or hierarchical block. As little as
 1fF can improve convergence. Applying it globally puts it on all nodes; use
 that with care, as it can affect subcircuit models.</source>
-        <translation>[Fór tráñšíéñt áñálýšíš óñlý: á šmáll çápáçítáñçé tó gróúñd fróm áll tóp lévél
-ñódéš, thát íš ñódéš ñót íñ á šúbçírçúít ór híérárçhíçál blóçk. Áš líttlé áš
-1fF çáñ ímpróvé çóñvérgéñçé. Ápplýíñg ít glóbállý pútš ít óñ áll ñódéš; úšé
-thát wíth çáré, áš ít çáñ áfféçt šúbçírçúít módélš.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Fór tráñšíéñt áñálýšíš óñlý: á šmáll çápáçítáñçé tó gróúñd fróm áll tóp lévél~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
+ñódéš, thát íš ñódéš ñót íñ á šúbçírçúít ór híérárçhíçál blóçk. Áš líttlé áš~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
+1fF çáñ ímpróvé çóñvérgéñçé. Ápplýíñg ít glóbállý pútš ít óñ áll ñódéš; úšé~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
+thát wíth çáré, áš ít çáñ áfféçt šúbçírçúít módélš.~~~~~~~~~~~~~~~~~~]</translation>
     </message>
 </context>
 <context>
@@ -477,9 +477,9 @@ thát wíth çáré, áš ít çáñ áfféçt šúbçírçúít módélš.~~~~~
         <source>Parameters define a soft recovery characteristic.
 Tr is the time to recover to 37% of the peak
 reverse current from the zero crossing</source>
-        <translation>[Párámétérš défíñé á šóft réçóvérý çháráçtéríštíç.
-Tr íš thé tímé tó réçóvér tó 37% óf thé péák
-révéršé çúrréñt fróm thé zéró çróššíñg~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Párámétérš défíñé á šóft réçóvérý çháráçtéríštíç.~~~~~~~~~~~~~~~~~~~~
+Tr íš thé tímé tó réçóvér tó 37% óf thé péák~~~~~~~~~~~~~~~~~~
+révéršé çúrréñt fróm thé zéró çróššíñg~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>DC Forward bias spec</source>
@@ -509,9 +509,9 @@ révéršé çúrréñt fróm thé zéró çróššíñg~~~~~~~~~~~~~~~~~~~~~~~~
         <source>Cj0 - Capacitance 
 
 at zero bias</source>
-        <translation>[Çj0 - Çápáçítáñçé 
+        <translation>[Çj0 - Çápáçítáñçé~~~~~~~ 
 
-át zéró bíáš~~~~~~~~~~]</translation>
+át zéró bíáš~~~]</translation>
     </message>
     <message>
         <source>Save options</source>
@@ -657,14 +657,14 @@ at zero bias</source>
     <message>
         <source>Series
 resistance</source>
-        <translation>[Šéríéš
-réšíštáñçé~~~~]</translation>
+        <translation>[Šéríéš~~
+réšíštáñçé~~]</translation>
     </message>
     <message>
         <source>Shunt
 resistance</source>
-        <translation>[Šhúñt
-réšíštáñçé~~~~]</translation>
+        <translation>[Šhúñt~~
+réšíštáñçé~~]</translation>
     </message>
     <message>
         <source>Infinity</source>
@@ -673,14 +673,14 @@ réšíštáñçé~~~~]</translation>
     <message>
         <source>Initial
 condition</source>
-        <translation>[Íñítíál
-çóñdítíóñ~~~~]</translation>
+        <translation>[Íñítíál~~~
+çóñdítíóñ~~]</translation>
     </message>
     <message>
         <source>With an initial condition the inductor behaves like a current source of this value
 during the DC operating point calculation.</source>
-        <translation>[Wíth áñ íñítíál çóñdítíóñ thé íñdúçtór béhávéš líké á çúrréñt šóúrçé óf thíš válúé
-dúríñg thé DÇ ópérátíñg póíñt çálçúlátíóñ.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Wíth áñ íñítíál çóñdítíóñ thé íñdúçtór béhávéš líké á çúrréñt šóúrçé óf thíš válúé~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
+dúríñg thé DÇ ópérátíñg póíñt çálçúlátíóñ.~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Enable</source>
@@ -712,11 +712,11 @@ polynomials to each segment, with a curve continuous in the second
 derivative and a second derivative of zero at the final end point.
 For badly formed segments it can fail with an error; then choose
 one of the other two.</source>
-        <translation>["Çúbíç šplíñé óptíóñ 1" úšúállý gívéš thé béšt réšúltš: ít fítš çúbíç
-pólýñómíálš tó éáçh šégméñt, wíth á çúrvé çóñtíñúóúš íñ thé šéçóñd
-dérívátívé áñd á šéçóñd dérívátívé óf zéró át thé fíñál éñd póíñt.
-Fór bádlý fórméd šégméñtš ít çáñ fáíl wíth áñ érrór; théñ çhóóšé
-óñé óf thé óthér twó.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>["Çúbíç šplíñé óptíóñ 1" úšúállý gívéš thé béšt réšúltš: ít fítš çúbíç~~~~~~~~~~~~~~~~~~~~~~~~~~~~
+pólýñómíálš tó éáçh šégméñt, wíth á çúrvé çóñtíñúóúš íñ thé šéçóñd~~~~~~~~~~~~~~~~~~~~~~~~~~
+dérívátívé áñd á šéçóñd dérívátívé óf zéró át thé fíñál éñd póíñt.~~~~~~~~~~~~~~~~~~~~~~~~~~
+Fór bádlý fórméd šégméñtš ít çáñ fáíl wíth áñ érrór; théñ çhóóšé~~~~~~~~~~~~~~~~~~~~~~~~~~
+óñé óf thé óthér twó.~~~~~~]</translation>
     </message>
     <message>
         <source>Save Options</source>
@@ -789,8 +789,8 @@ Fór bádlý fórméd šégméñtš ít çáñ fáíl wíth áñ érrór; théñ
     <message>
         <source>Digitises a graph from an image file (JPEG, PNG or BMP),
 for example one taken from a data sheet.</source>
-        <translation>[Dígítíšéš á gráph fróm áñ ímágé fílé (JPÉG, PÑG ór BMP),
-fór éxámplé óñé tákéñ fróm á dátá šhéét.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Dígítíšéš á gráph fróm áñ ímágé fílé (JPÉG, PÑG ór BMP),~~~~~~~~~~~~~~~~~~~~~~
+fór éxámplé óñé tákéñ fróm á dátá šhéét.~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Swap I and L</source>
@@ -1023,17 +1023,17 @@ fór éxámplé óñé tákéñ fróm á dátá šhéét.~~~~~~~~~~~~~~~~~~~~~~~
     </message>
     <message>
         <source>&lt;p align="center"&gt;&lt;b&gt;Continuous / Discrete Time Filters&lt;/b&gt;&lt;/p&gt;</source>
-        <translation>&lt;p align="center"&gt;&lt;b&gt;[Çóñtíñúóúš / Díšçrété Tímé Fíltérš~~~~~~~~~~~~]&lt;/b&gt;&lt;/p&gt;</translation>
+        <translation>&lt;p align="center"&gt;&lt;b&gt;[Çóñtíñúóúš / Díšçrété Tímé Fíltérš~~~~~~~~~~~~~~]&lt;/b&gt;&lt;/p&gt;</translation>
     </message>
     <message>
         <source>This component can model either a continuous time filter or a discrete time filter.
 The transfer function for the filter can be entered in either "s" or "z" domains, 
 and the other domain's coefficients can be calculated using the "Calculate" buttons. 
 The model used in the simulation is selected using the "Model" buttons.</source>
-        <translation>[Thíš çómpóñéñt çáñ módél éíthér á çóñtíñúóúš tímé fíltér ór á díšçrété tímé fíltér.
-Thé tráñšfér fúñçtíóñ fór thé fíltér çáñ bé éñtéréd íñ éíthér "š" ór "z" dómáíñš, 
-áñd thé óthér dómáíñ'š çóéffíçíéñtš çáñ bé çálçúlátéd úšíñg thé "Çálçúláté" búttóñš. 
-Thé módél úšéd íñ thé šímúlátíóñ íš šéléçtéd úšíñg thé "Módél" búttóñš.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thíš çómpóñéñt çáñ módél éíthér á çóñtíñúóúš tímé fíltér ór á díšçrété tímé fíltér.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
+Thé tráñšfér fúñçtíóñ fór thé fíltér çáñ bé éñtéréd íñ éíthér "š" ór "z" dómáíñš,~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~ 
+áñd thé óthér dómáíñ'š çóéffíçíéñtš çáñ bé çálçúlátéd úšíñg thé "Çálçúláté" búttóñš.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~ 
+Thé módél úšéd íñ thé šímúlátíóñ íš šéléçtéd úšíñg thé "Módél" búttóñš.~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Parameters</source>
@@ -1085,11 +1085,11 @@ Thé módél úšéd íñ thé šímúlátíóñ íš šéléçtéd úšíñg th
     </message>
     <message>
         <source>s&lt;sup&gt;2&lt;/sup&gt;</source>
-        <translation>[š&lt;sup&gt;2&lt;/sup&gt;~]</translation>
+        <translation>[š&lt;sup&gt;2~]&lt;/sup&gt;</translation>
     </message>
     <message>
         <source>s + s&lt;sup&gt;2&lt;/sup&gt;</source>
-        <translation>[š + š&lt;sup&gt;2&lt;/sup&gt;~]</translation>
+        <translation>[š + š&lt;sup&gt;2~]&lt;/sup&gt;</translation>
     </message>
     <message>
         <source>Calculate "s" Coefficients</source>
@@ -1125,7 +1125,7 @@ Thé módél úšéd íñ thé šímúlátíóñ íš šéléçtéd úšíñg th
     </message>
     <message>
         <source>z&lt;sup&gt;-2&lt;/sup&gt;</source>
-        <translation>[z&lt;sup&gt;-2&lt;/sup&gt;~]</translation>
+        <translation>[z&lt;sup&gt;-2~]&lt;/sup&gt;</translation>
     </message>
     <message>
         <source>1 +</source>
@@ -1153,7 +1153,7 @@ Thé módél úšéd íñ thé šímúlátíóñ íš šéléçtéd úšíñg th
     </message>
     <message>
         <source>The precision of the model parameters is set with this value.&lt;br /&gt;Permissable values are from 3 to 16 significant digits.&lt;br/&gt;The Z-Coefficients are sensitive to this precision value.</source>
-        <translation>[Thé préçíšíóñ óf thé módél párámétérš íš šét wíth thíš válúé.&lt;br /&gt;Pérmíššáblé válúéš áré fróm 3 tó 16 šígñífíçáñt dígítš.&lt;br/&gt;Thé Z-Çóéffíçíéñtš áré šéñšítívé tó thíš préçíšíóñ válúé.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thé préçíšíóñ óf thé módél párámétérš íš šét wíth thíš válúé.~~~~~~~~~~~~~~~~~~~~~~~~&lt;br /&gt;Pérmíššáblé válúéš áré fróm 3 tó 16 šígñífíçáñt dígítš.~~~~~~~~~~~~~~~~~~~~~~&lt;br/&gt;Thé Z-Çóéffíçíéñtš áré šéñšítívé tó thíš préçíšíóñ válúé.~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Display precision</source>
@@ -1165,7 +1165,7 @@ Thé módél úšéd íñ thé šímúlátíóñ íš šéléçtéd úšíñg th
     </message>
     <message>
         <source>The displayed precision of the various coefficients is set with this parameter.&lt;br /&gt;The values used in calculations usually have higher precision than the display precision.&lt;br /&gt;Display precision has no impact on the model behavior.</source>
-        <translation>[Thé díšpláýéd préçíšíóñ óf thé váríóúš çóéffíçíéñtš íš šét wíth thíš párámétér.&lt;br /&gt;Thé válúéš úšéd íñ çálçúlátíóñš úšúállý hávé híghér préçíšíóñ tháñ thé díšpláý préçíšíóñ.&lt;br /&gt;Díšpláý préçíšíóñ háš ñó ímpáçt óñ thé módél béhávíór.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thé díšpláýéd préçíšíóñ óf thé váríóúš çóéffíçíéñtš íš šét wíth thíš párámétér.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~&lt;br /&gt;Thé válúéš úšéd íñ çálçúlátíóñš úšúállý hávé híghér préçíšíóñ tháñ thé díšpláý préçíšíóñ.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~&lt;br /&gt;Díšpláý préçíšíóñ háš ñó ímpáçt óñ thé módél béhávíór.~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Annotation precision</source>
@@ -1177,7 +1177,7 @@ Thé módél úšéd íñ thé šímúlátíóñ íš šéléçtéd úšíñg th
     </message>
     <message>
         <source>After closing this dialog, the symbol will be annotated with a expression representing&lt;br/&gt;the numerator and denominator equations.&lt;br/&gt;This control allows the precision of coefficients in these equations to be set to a specified precision.&lt;br /&gt;Annotation precision has no impact on the model behavior.</source>
-        <translation>[Áftér çlóšíñg thíš díálóg, thé šýmból wíll bé áññótátéd wíth á éxpréššíóñ répréšéñtíñg&lt;br/&gt;thé ñúmérátór áñd déñómíñátór éqúátíóñš.&lt;br/&gt;Thíš çóñtról állówš thé préçíšíóñ óf çóéffíçíéñtš íñ théšé éqúátíóñš tó bé šét tó á špéçífíéd préçíšíóñ.&lt;br /&gt;Áññótátíóñ préçíšíóñ háš ñó ímpáçt óñ thé módél béhávíór.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Áftér çlóšíñg thíš díálóg, thé šýmból wíll bé áññótátéd wíth á éxpréššíóñ répréšéñtíñg~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~&lt;br/&gt;thé ñúmérátór áñd déñómíñátór éqúátíóñš.~~~~~~~~~~~~~~~~&lt;br/&gt;Thíš çóñtról állówš thé préçíšíóñ óf çóéffíçíéñtš íñ théšé éqúátíóñš tó bé šét tó á špéçífíéd préçíšíóñ.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~&lt;br /&gt;Áññótátíóñ préçíšíóñ háš ñó ímpáçt óñ thé módél béhávíór.~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Help</source>
@@ -1207,9 +1207,9 @@ Thé módél úšéd íñ thé šímúlátíóñ íš šéléçtéd úšíñg th
         <source>Using the coefficients provided, calculation of the new coeficiencts will result in a divide by zero.
 The calculation has been aborted and the coefficients have not been altered.
 Please check your coefficients and try again.</source>
-        <translation>[Úšíñg thé çóéffíçíéñtš próvídéd, çálçúlátíóñ óf thé ñéw çóéfíçíéñçtš wíll réšúlt íñ á dívídé bý zéró.
-Thé çálçúlátíóñ háš bééñ ábórtéd áñd thé çóéffíçíéñtš hávé ñót bééñ áltéréd.
-Pléášé çhéçk ýóúr çóéffíçíéñtš áñd trý ágáíñ.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Úšíñg thé çóéffíçíéñtš próvídéd, çálçúlátíóñ óf thé ñéw çóéfíçíéñçtš wíll réšúlt íñ á dívídé bý zéró.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
+Thé çálçúlátíóñ háš bééñ ábórtéd áñd thé çóéffíçíéñtš hávé ñót bééñ áltéréd.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
+Pléášé çhéçk ýóúr çóéffíçíéñtš áñd trý ágáíñ.~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Maximum Model Order Exceeded!</source>
@@ -1218,8 +1218,8 @@ Pléášé çhéçk ýóúr çóéffíçíéñtš áñd trý ágáíñ.~~~~~~~~~
     <message>
         <source>This device allows up to 2nd order models.
 To model a higher order filter, you can cascade multiple devices.</source>
-        <translation>[Thíš dévíçé állówš úp tó 2ñd órdér módélš.
-Tó módél á híghér órdér fíltér, ýóú çáñ çášçádé múltíplé dévíçéš.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thíš dévíçé állówš úp tó 2ñd órdér módélš.~~~~~~~~~~~~~~~~~
+Tó módél á híghér órdér fíltér, ýóú çáñ çášçádé múltíplé dévíçéš.~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Minimum Model Order Exceeded!</source>
@@ -1228,8 +1228,8 @@ Tó módél á híghér órdér fíltér, ýóú çáñ çášçádé múltípl�
     <message>
         <source>This device allows a minimum of a 1st order model.
 To model a 0th order device, you can use the Zero Order Sample and Hold.</source>
-        <translation>[Thíš dévíçé állówš á míñímúm óf á 1št órdér módél.
-Tó módél á 0th órdér dévíçé, ýóú çáñ úšé thé Zéró Órdér Šámplé áñd Hóld.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thíš dévíçé állówš á míñímúm óf á 1št órdér módél.~~~~~~~~~~~~~~~~~~~~
+Tó módél á 0th órdér dévíçé, ýóú çáñ úšé thé Zéró Órdér Šámplé áñd Hóld.~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>S Coefficients have changed</source>
@@ -1243,17 +1243,17 @@ Tó módél á 0th órdér dévíçé, ýóú çáñ úšé thé Zéró Órdér 
         <source>It appears that you have changed the S domain coefficients,
 yet haven't re-calculated the Z domain coefficients.
 Press "Calculate Now" to calculate and save, "Cancel" to return to BRELVON without calculating.</source>
-        <translation>[Ít áppéárš thát ýóú hávé çháñgéd thé Š dómáíñ çóéffíçíéñtš,
-ýét hávéñ't ré-çálçúlátéd thé Z dómáíñ çóéffíçíéñtš.
-Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél" tó rétúrñ tó BRÉLVÓÑ wíthóút çálçúlátíñg.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Ít áppéárš thát ýóú hávé çháñgéd thé Š dómáíñ çóéffíçíéñtš,~~~~~~~~~~~~~~~~~~~~~~~~
+ýét hávéñ't ré-çálçúlátéd thé Z dómáíñ çóéffíçíéñtš.~~~~~~~~~~~~~~~~~~~~~
+Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél" tó rétúrñ tó BRÉLVÓÑ wíthóút çálçúlátíñg.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>It appears that you have changed the Z domain coefficients,
 yet haven't re-calculated the S domain coefficients.
 Press "Calculate Now" to calculate and save, "Cancel" to return to BRELVON without calculating.</source>
-        <translation>[Ít áppéárš thát ýóú hávé çháñgéd thé Z dómáíñ çóéffíçíéñtš,
-ýét hávéñ't ré-çálçúlátéd thé Š dómáíñ çóéffíçíéñtš.
-Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél" tó rétúrñ tó BRÉLVÓÑ wíthóút çálçúlátíñg.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Ít áppéárš thát ýóú hávé çháñgéd thé Z dómáíñ çóéffíçíéñtš,~~~~~~~~~~~~~~~~~~~~~~~~
+ýét hávéñ't ré-çálçúlátéd thé Š dómáíñ çóéffíçíéñtš.~~~~~~~~~~~~~~~~~~~~~
+Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél" tó rétúrñ tó BRÉLVÓÑ wíthóút çálçúlátíñg.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Calculate Now</source>
@@ -1316,7 +1316,7 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     </message>
     <message>
         <source>&lt;p&gt;The threshold and the hysteresis set the input voltage thresholds:&lt;br/&gt;TH = T + H/2 and TL = T - H/2.&lt;/p&gt;&lt;img src=":/threshold_hysteresis.png"/&gt;</source>
-        <translation>&lt;p&gt;[Thé thréšhóld áñd thé hýštéréšíš šét thé íñpút vóltágé thréšhóldš:&lt;br/&gt;TH = T + H/2 áñd TL = T - H/2.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]&lt;/p&gt;&lt;img src=":/threshold_hysteresis.png"/&gt;</translation>
+        <translation>&lt;p&gt;[Thé thréšhóld áñd thé hýštéréšíš šét thé íñpút vóltágé thréšhóldš:~~~~~~~~~~~~~~~~~~~~~~~~~~&lt;br/&gt;TH = T + H/2 áñd TL = T - H/2.~~~~~~~~~~~~]&lt;/p&gt;&lt;img src=":/threshold_hysteresis.png"/&gt;</translation>
     </message>
     <message>
         <source>2.5</source>
@@ -1476,7 +1476,7 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     </message>
     <message>
         <source>&lt;b&gt;Level 0&lt;/b&gt; models the output switches as simple on/off resistances.&lt;br/&gt;&lt;b&gt;Level 1&lt;/b&gt; includes the saturation region where switches are current limited.&lt;br/&gt;&lt;b&gt;Level 2&lt;/b&gt; models the output switches as 3-segment PWL resistors.&lt;br/&gt;Compatible with Version 8.0+. Click on the &lt;b&gt;Help&lt;/b&gt; button for more information.&lt;p&gt;To enter a expression containing parameter names enclosed in {}, right-click and select the Parameterize context menu option.&lt;/p&gt;</source>
-        <translation>&lt;b&gt;[Lévél 0&lt;/b&gt; módélš thé óútpút šwítçhéš áš šímplé óñ/óff réšíštáñçéš.&lt;br/&gt;&lt;b&gt;Lévél 1&lt;/b&gt; íñçlúdéš thé šátúrátíóñ régíóñ whéré šwítçhéš áré çúrréñt límítéd.&lt;br/&gt;&lt;b&gt;Lévél 2&lt;/b&gt; módélš thé óútpút šwítçhéš áš 3-šégméñt PWL réšíštórš.&lt;br/&gt;Çómpátíblé wíth Véršíóñ 8.0+. Çlíçk óñ thé &lt;b&gt;Hélp&lt;/b&gt; búttóñ fór móré íñfórmátíóñ.&lt;p&gt;Tó éñtér á éxpréššíóñ çóñtáíñíñg párámétér ñáméš éñçlóšéd íñ {}, ríght-çlíçk áñd šéléçt thé Párámétérízé çóñtéxt méñú óptíóñ.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]&lt;/p&gt;</translation>
+        <translation>&lt;b&gt;[Lévél 0&lt;/b&gt; módélš thé óútpút šwítçhéš áš šímplé óñ/óff réšíštáñçéš.~~~~~~~~~~~~~~~~~~~~~~~~~~&lt;br/&gt;&lt;b&gt;Lévél 1&lt;/b&gt; íñçlúdéš thé šátúrátíóñ régíóñ whéré šwítçhéš áré çúrréñt límítéd.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~&lt;br/&gt;&lt;b&gt;Lévél 2&lt;/b&gt; módélš thé óútpút šwítçhéš áš 3-šégméñt PWL réšíštórš.~~~~~~~~~~~~~~~~~~~~~~~~~&lt;br/&gt;Çómpátíblé wíth Véršíóñ 8.0+. Çlíçk óñ thé &lt;b&gt;Hélp&lt;/b&gt; búttóñ fór móré íñfórmátíóñ.&lt;p&gt;Tó éñtér á éxpréššíóñ çóñtáíñíñg párámétér ñáméš éñçlóšéd íñ {}, ríght-çlíçk áñd šéléçt thé Párámétérízé çóñtéxt méñú óptíóñ.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
@@ -1558,7 +1558,7 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     </message>
     <message>
         <source>&lt;b&gt;Level 0&lt;/b&gt; is an ideal capacitor with no parasitic elements.&lt;br/&gt;&lt;b&gt;Level 1&lt;/b&gt; is a capacitor with leakage resistance.&lt;br/&gt;&lt;b&gt;Level 2&lt;/b&gt; is a capacitor with ESR and leakage resistance.&lt;br/&gt;&lt;b&gt;Level 3&lt;/b&gt; is a capacitor with ESR, ESL and leakage resistance.&lt;p&gt;To enter an expression containing parameter names enclosed in {}, right-click and select the Parameterize context menu option.&lt;/p&gt;</source>
-        <translation>&lt;b&gt;[Lévél 0&lt;/b&gt; íš áñ ídéál çápáçítór wíth ñó párášítíç éléméñtš.&lt;br/&gt;&lt;b&gt;Lévél 1&lt;/b&gt; íš á çápáçítór wíth léákágé réšíštáñçé.&lt;br/&gt;&lt;b&gt;Lévél 2&lt;/b&gt; íš á çápáçítór wíth ÉŠR áñd léákágé réšíštáñçé.&lt;br/&gt;&lt;b&gt;Lévél 3&lt;/b&gt; íš á çápáçítór wíth ÉŠR, ÉŠL áñd léákágé réšíštáñçé.&lt;p&gt;Tó éñtér áñ éxpréššíóñ çóñtáíñíñg párámétér ñáméš éñçlóšéd íñ {}, ríght-çlíçk áñd šéléçt thé Párámétérízé çóñtéxt méñú óptíóñ.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]&lt;/p&gt;</translation>
+        <translation>&lt;b&gt;[Lévél 0&lt;/b&gt; íš áñ ídéál çápáçítór wíth ñó párášítíç éléméñtš.~~~~~~~~~~~~~~~~~~~~~~~&lt;br/&gt;&lt;b&gt;Lévél 1&lt;/b&gt; íš á çápáçítór wíth léákágé réšíštáñçé.~~~~~~~~~~~~~~~~~~~&lt;br/&gt;&lt;b&gt;Lévél 2&lt;/b&gt; íš á çápáçítór wíth ÉŠR áñd léákágé réšíštáñçé.~~~~~~~~~~~~~~~~~~~~~~&lt;br/&gt;&lt;b&gt;Lévél 3&lt;/b&gt; íš á çápáçítór wíth ÉŠR, ÉŠL áñd léákágé réšíštáñçé.&lt;p&gt;Tó éñtér áñ éxpréššíóñ çóñtáíñíñg párámétér ñáméš éñçlóšéd íñ {}, ríght-çlíçk áñd šéléçt thé Párámétérízé çóñtéxt méñú óptíóñ.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Level 0</source>
@@ -1746,7 +1746,7 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     </message>
     <message>
         <source>&lt;b&gt;Level 0&lt;/b&gt; is an inductor with a parallel shunt resistance.&lt;br/&gt;&lt;b&gt;Level 1&lt;/b&gt; is an inductor with a parallel shunt resistance and equivalent series resistance (ESR).&lt;p&gt;To enter an expression containing parameter names enclosed in {}, right-click and select the Parameterize context menu option.&lt;/p&gt;</source>
-        <translation>&lt;b&gt;[Lévél 0&lt;/b&gt; íš áñ íñdúçtór wíth á párállél šhúñt réšíštáñçé.&lt;br/&gt;&lt;b&gt;Lévél 1&lt;/b&gt; íš áñ íñdúçtór wíth á párállél šhúñt réšíštáñçé áñd éqúíváléñt šéríéš réšíštáñçé (ÉŠR).&lt;p&gt;Tó éñtér áñ éxpréššíóñ çóñtáíñíñg párámétér ñáméš éñçlóšéd íñ {}, ríght-çlíçk áñd šéléçt thé Párámétérízé çóñtéxt méñú óptíóñ.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]&lt;/p&gt;</translation>
+        <translation>&lt;b&gt;[Lévél 0&lt;/b&gt; íš áñ íñdúçtór wíth á párállél šhúñt réšíštáñçé.~~~~~~~~~~~~~~~~~~~~~~&lt;br/&gt;&lt;b&gt;Lévél 1&lt;/b&gt; íš áñ íñdúçtór wíth á párállél šhúñt réšíštáñçé áñd éqúíváléñt šéríéš réšíštáñçé (ÉŠR).&lt;p&gt;Tó éñtér áñ éxpréššíóñ çóñtáíñíñg párámétér ñáméš éñçlóšéd íñ {}, ríght-çlíçk áñd šéléçt thé Párámétérízé çóñtéxt méñú óptíóñ.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
@@ -2147,14 +2147,14 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     <message>
         <source>Implements a combintorial model where the output voltage changes in response
 to the input voltage(s) change after a propagation delay.</source>
-        <translation>[Ímpléméñtš á çómbíñtóríál módél whéré thé óútpút vóltágé çháñgéš íñ réšpóñšé
-tó thé íñpút vóltágé(š) çháñgé áftér á própágátíóñ déláý.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Ímpléméñtš á çómbíñtóríál módél whéré thé óútpút vóltágé çháñgéš íñ réšpóñšé~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
+tó thé íñpút vóltágé(š) çháñgé áftér á própágátíóñ déláý.~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>In response to an input voltage change, the output voltage
 changes after a designated number of clock cycles.</source>
-        <translation>[Íñ réšpóñšé tó áñ íñpút vóltágé çháñgé, thé óútpút vóltágé
-çháñgéš áftér á déšígñátéd ñúmbér óf çlóçk çýçléš.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Íñ réšpóñšé tó áñ íñpút vóltágé çháñgé, thé óútpút vóltágé~~~~~~~~~~~~~~~~~~~~~~~
+çháñgéš áftér á déšígñátéd ñúmbér óf çlóçk çýçléš.~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>The full 32 bit signed data is output.</source>
@@ -2163,8 +2163,8 @@ changes after a designated number of clock cycles.</source>
     <message>
         <source>The output is limited to a Signed or Unsigned number
 with a designated number of bits.</source>
-        <translation>[Thé óútpút íš límítéd tó á Šígñéd ór Úñšígñéd ñúmbér
-wíth á déšígñátéd ñúmbér óf bítš.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thé óútpút íš límítéd tó á Šígñéd ór Úñšígñéd ñúmbér~~~~~~~~~~~~~~~~~~~~~
+wíth á déšígñátéd ñúmbér óf bítš.~~~~~~~~~~~]</translation>
     </message>
 </context>
 <context>
@@ -2238,23 +2238,23 @@ wíth á déšígñátéd ñúmbér óf bítš.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Label as displayed on graph&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;[Lábél áš díšpláýéd óñ gráph~~~~~~~~~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;[Lábél áš díšpláýéd óñ gráph~~~~~~~~~~~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Expression. Enter an expression that&lt;br/&gt;returns the measurement value.&lt;br/&gt;Use 'data' to access the curve's data.&lt;br/&gt;E.g. to get the mean squared use:&lt;br/&gt;&lt;br/&gt;Mean1(data*data).&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;[Éxpréššíóñ. Éñtér áñ éxpréššíóñ thát&lt;br/&gt;rétúrñš thé méášúréméñt válúé.&lt;br/&gt;Úšé 'dátá' tó áççéšš thé çúrvé'š dátá.&lt;br/&gt;É.g. tó gét thé méáñ šqúáréd úšé:&lt;br/&gt;&lt;br/&gt;Méáñ1(dátá*dátá).~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;[Éxpréššíóñ. Éñtér áñ éxpréššíóñ thát~~~~~~~~~~~~~~&lt;br/&gt;rétúrñš thé méášúréméñt válúé.~~~~~~~~~~~~&lt;br/&gt;Úšé 'dátá' tó áççéšš thé çúrvé'š dátá.~~~~~~~~~~~~~~~&lt;br/&gt;É.g. tó gét thé méáñ šqúáréd úšé:~~~~~~~~~~~~~&lt;br/&gt;&lt;br/&gt;Méáñ1(dátá*dátá).~~~~~~~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Format template. Leave blank&lt;br/&gt;to use default&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;[Fórmát témpláté. Léávé bláñk&lt;br/&gt;tó úšé défáúlt~~~~~~~~~~~~~~~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;[Fórmát témpláté. Léávé bláñk~~~~~~~~~~~&lt;br/&gt;tó úšé défáúlt~~~~~~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Full description. \n siginifies new line&lt;br/&gt;(Displayed below list box. Optional)&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;[Fúll déšçríptíóñ. \n šígíñífíéš ñéw líñé&lt;br/&gt;(Díšpláýéd bélów líšt bóx. Óptíóñál)~~~~~~~~~~~~~~~~~~~~~~~~~~~~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;[Fúll déšçríptíóñ. \n šígíñífíéš ñéw líñé~~~~~~~~~~~~~~~&lt;br/&gt;(Díšpláýéd bélów líšt bóx. Óptíóñál)~~~~~~~~~~~~~~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Requires cursors to be switched on&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;[Réqúíréš çúršórš tó bé šwítçhéd óñ~~~~~~~~~~~~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;[Réqúíréš çúršórš tó bé šwítçhéd óñ~~~~~~~~~~~~~~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>&amp;Ok</source>
@@ -2283,8 +2283,8 @@ wíth á déšígñátéd ñúmbér óf bítš.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]
     <message>
         <source>The name you have entered is already used
 Choose another name</source>
-        <translation>[Thé ñámé ýóú hávé éñtéréd íš álréádý úšéd
-Çhóóšé áñóthér ñámé~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thé ñámé ýóú hávé éñtéréd íš álréádý úšéd~~~~~~~~~~~~~~~~
+Çhóóšé áñóthér ñámé~~~~~~]</translation>
     </message>
 </context>
 <context>
@@ -2336,18 +2336,18 @@ Use 'data' to access the curve's data.
 E.g. to get the mean squared use:
 
 Mean1(data*data).</source>
-        <translation>[Éxpréššíóñ. Éñtér áñ éxpréššíóñ thát
-rétúrñš thé méášúréméñt válúé.
-Úšé 'dátá' tó áççéšš thé çúrvé'š dátá. 
-É.g. tó gét thé méáñ šqúáréd úšé:
+        <translation>[Éxpréššíóñ. Éñtér áñ éxpréššíóñ thát~~~~~~~~~~~~~~
+rétúrñš thé méášúréméñt válúé.~~~~~~~~~~~~
+Úšé 'dátá' tó áççéšš thé çúrvé'š dátá.~~~~~~~~~~~~~~~~ 
+É.g. tó gét thé méáñ šqúáréd úšé:~~~~~~~~~~~~~
 
-Méáñ1(dátá*dátá).~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+Méáñ1(dátá*dátá).~~~~~]</translation>
     </message>
     <message>
         <source>Format template. Leave blank
 to use default</source>
-        <translation>[Fórmát témpláté. Léávé bláñk
-tó úšé défáúlt~~~~~~~~~~~~~~~]</translation>
+        <translation>[Fórmát témpláté. Léávé bláñk~~~~~~~~~~~
+tó úšé défáúlt~~~~]</translation>
     </message>
     <message>
         <source>Save definition to pre-defined measurements</source>
@@ -2360,14 +2360,14 @@ tó úšé défáúlt~~~~~~~~~~~~~~~]</translation>
     <message>
         <source>Short description
 (Displayed in list box. Optional)</source>
-        <translation>[Šhórt déšçríptíóñ
-(Díšpláýéd íñ líšt bóx. Óptíóñál)~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Šhórt déšçríptíóñ~~~~~~~
+(Díšpláýéd íñ líšt bóx. Óptíóñál)~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Full description
 (Displayed below list box. Optional)</source>
-        <translation>[Fúll déšçríptíóñ
-(Díšpláýéd bélów líšt bóx. Óptíóñál)~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Fúll déšçríptíóñ~~~~~~
+(Díšpláýéd bélów líšt bóx. Óptíóñál)~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>&amp;Ok</source>
@@ -2388,8 +2388,8 @@ tó úšé défáúlt~~~~~~~~~~~~~~~]</translation>
     <message>
         <source>Some items are disabled as they require cursors to be switched on
 </source>
-        <translation>[Šómé ítémš áré díšábléd áš théý réqúíré çúršórš tó bé šwítçhéd óñ
-~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Šómé ítémš áré díšábléd áš théý réqúíré çúršórš tó bé šwítçhéd óñ~~~~~~~~~~~~~~~~~~~~~~~~~~]
+</translation>
     </message>
 </context>
 <context>
@@ -2469,18 +2469,18 @@ tó úšé défáúlt~~~~~~~~~~~~~~~]</translation>
     <message>
         <source>"Extracted" creates a BRELVON model from the SPICE model.
 "User-defined" creates a model based on user input.</source>
-        <translation>["Éxtráçtéd" çréátéš á BRÉLVÓÑ módél fróm thé ŠPÍÇÉ módél.
-"Úšér-défíñéd" çréátéš á módél bášéd óñ úšér íñpút.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>["Éxtráçtéd" çréátéš á BRÉLVÓÑ módél fróm thé ŠPÍÇÉ módél.~~~~~~~~~~~~~~~~~~~~~~~
+"Úšér-défíñéd" çréátéš á módél bášéd óñ úšér íñpút.~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>&lt;p&gt;There are three ways to choose the SPICE model:&lt;/p&gt;&lt;p&gt;&lt;img src=":/combo_box_mouse_cursor_transparent.png"&gt; pick a recently used model from the list,&lt;/p&gt;&lt;p&gt;&lt;img src=":/select_button_mouse_cursor_transparent.png"&gt; press "Select..." and choose from all installed models,&lt;/p&gt;&lt;p&gt;or type the name of the model. The name is &lt;b&gt;NOT&lt;/b&gt; cap sensitive.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;[Théré áré thréé wáýš tó çhóóšé thé ŠPÍÇÉ módél:&lt;/p&gt;&lt;p&gt;&lt;img src=":/combo_box_mouse_cursor_transparent.png"&gt; píçk á réçéñtlý úšéd módél fróm thé líšt,&lt;/p&gt;&lt;p&gt;&lt;img src=":/select_button_mouse_cursor_transparent.png"&gt; préšš "Šéléçt..." áñd çhóóšé fróm áll íñštálléd módélš,&lt;/p&gt;&lt;p&gt;ór týpé thé ñámé óf thé módél. Thé ñámé íš &lt;b&gt;ÑÓT&lt;/b&gt; çáp šéñšítívé.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;[Théré áré thréé wáýš tó çhóóšé thé ŠPÍÇÉ módél:~~~~~~~~~~~~~~~~~~~&lt;/p&gt;&lt;p&gt;&lt;img src=":/combo_box_mouse_cursor_transparent.png"&gt; píçk á réçéñtlý úšéd módél fróm thé líšt,~~~~~~~~~~~~~~~~~&lt;/p&gt;&lt;p&gt;&lt;img src=":/select_button_mouse_cursor_transparent.png"&gt; préšš "Šéléçt..." áñd çhóóšé fróm áll íñštálléd módélš,~~~~~~~~~~~~~~~~~~~~~~&lt;/p&gt;&lt;p&gt;ór týpé thé ñámé óf thé módél. Thé ñámé íš &lt;b&gt;ÑÓT&lt;/b&gt; çáp šéñšítívé.~~~~~~~~~~~~~~~~~~~~~~~~]&lt;/p&gt;</translation>
     </message>
     <message>
         <source>The label may hold only letters, digits and the underscore. It describes the device
 and isn't used in simulation.</source>
-        <translation>[Thé lábél máý hóld óñlý léttérš, dígítš áñd thé úñdéršçóré. Ít déšçríbéš thé dévíçé
-áñd íšñ't úšéd íñ šímúlátíóñ.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thé lábél máý hóld óñlý léttérš, dígítš áñd thé úñdéršçóré. Ít déšçríbéš thé dévíçé~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
+áñd íšñ't úšéd íñ šímúlátíóñ.~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Single</source>
@@ -2513,8 +2513,8 @@ and isn't used in simulation.</source>
     <message>
         <source>"Translated" creates a BRELVON model from the SPICE model.
 "User-defined" creates a model based on user input.</source>
-        <translation>["Tráñšlátéd" çréátéš á BRÉLVÓÑ módél fróm thé ŠPÍÇÉ módél.
-"Úšér-défíñéd" çréátéš á módél bášéd óñ úšér íñpút.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>["Tráñšlátéd" çréátéš á BRÉLVÓÑ módél fróm thé ŠPÍÇÉ módél.~~~~~~~~~~~~~~~~~~~~~~~
+"Úšér-défíñéd" çréátéš á módél bášéd óñ úšér íñpút.~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Choose the SPICE model to translate: pick it from the list, press "Select...", or type its name.</source>
@@ -2534,15 +2534,15 @@ and isn't used in simulation.</source>
     </message>
     <message>
         <source>Translate </source>
-        <translation>[Tráñšláté ~~]</translation>
+        <translation>[Tráñšláté~~] </translation>
     </message>
     <message>
         <source>Extract </source>
-        <translation>[Éxtráçt ~]</translation>
+        <translation>[Éxtráçt~] </translation>
     </message>
     <message>
         <source>Edit </source>
-        <translation>[Édít ~]</translation>
+        <translation>[Édít~] </translation>
     </message>
     <message>
         <source>Number of diodes</source>
@@ -2560,9 +2560,9 @@ and isn't used in simulation.</source>
         <source>All User-defined models must have a label with at least one character.
 
 Valid characters include A-Z, a-z, 0-9, _ and -</source>
-        <translation>[Áll Úšér-défíñéd módélš múšt hávé á lábél wíth át léášt óñé çháráçtér.
+        <translation>[Áll Úšér-défíñéd módélš múšt hávé á lábél wíth át léášt óñé çháráçtér.~~~~~~~~~~~~~~~~~~~~~~~~~~~~
 
-Válíd çháráçtérš íñçlúdé Á-Z, á-z, 0-9, _ áñd -~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+Válíd çháráçtérš íñçlúdé Á-Z, á-z, 0-9, _ áñd -~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>No Model selected</source>
@@ -2572,9 +2572,9 @@ Válíd çháráçtérš íñçlúdé Á-Z, á-z, 0-9, _ áñd -~~~~~~~~~~~~~~~~
         <source>The "SPICE Model" selection box is empty.
 
 Please select a model using the "Select..." button to continue.</source>
-        <translation>[Thé "ŠPÍÇÉ Módél" šéléçtíóñ bóx íš émptý.
+        <translation>[Thé "ŠPÍÇÉ Módél" šéléçtíóñ bóx íš émptý.~~~~~~~~~~~~~~~~
 
-Pléášé šéléçt á módél úšíñg thé "Šéléçt..." búttóñ tó çóñtíñúé.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+Pléášé šéléçt á módél úšíñg thé "Šéléçt..." búttóñ tó çóñtíñúé.~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Model %1 not found in libraries</source>
@@ -2590,15 +2590,15 @@ the SPICE model must first be installed in the library system.
 
 Model files can be installed into the library system by dragging and dropping
 the model file into the Vantrell/BRELVON Command Shell.</source>
-        <translation>[Thé módél :
+        <translation>[Thé módél :~~~~
 
 %1
 
-wášñ't fóúñd íñ áñý íñštálléd líbráríéš. Tó éxtráçt á BRÉLVÓÑ módél,
-thé ŠPÍÇÉ módél múšt fíršt bé íñštálléd íñ thé líbrárý šýštém.
+wášñ't fóúñd íñ áñý íñštálléd líbráríéš. Tó éxtráçt á BRÉLVÓÑ módél,~~~~~~~~~~~~~~~~~~~~~~~~~~~
+thé ŠPÍÇÉ módél múšt fíršt bé íñštálléd íñ thé líbrárý šýštém.~~~~~~~~~~~~~~~~~~~~~~~~~
 
-Módél fíléš çáñ bé íñštálléd íñtó thé líbrárý šýštém bý drággíñg áñd dróppíñg
-thé módél fílé íñtó thé Váñtréll/BRÉLVÓÑ Çómmáñd Šhéll.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+Módél fíléš çáñ bé íñštálléd íñtó thé líbrárý šýštém bý drággíñg áñd dróppíñg~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
+thé módél fílé íñtó thé Váñtréll/BRÉLVÓÑ Çómmáñd Šhéll.~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
 </context>
 <context>
@@ -2643,23 +2643,23 @@ thé módél fílé íñtó thé Váñtréll/BRÉLVÓÑ Çómmáñd Šhéll.~~~~
         <source>No device was selected.
 Please select a device from the list,
 and press Ok to continue.</source>
-        <translation>[Ñó dévíçé wáš šéléçtéd.
-Pléášé šéléçt á dévíçé fróm thé líšt,
-áñd préšš Ók tó çóñtíñúé.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Ñó dévíçé wáš šéléçtéd.~~~~~~~~~
+Pléášé šéléçt á dévíçé fróm thé líšt,~~~~~~~~~~~~~~~
+áñd préšš Ók tó çóñtíñúé.~~~~~~~~]</translation>
     </message>
     <message>
         <source>The search engine uses a full substring search, and the list is updated as you type.
 Wildcard characters (*, ?, etc.) are not used, and are interpreted literally.</source>
-        <translation>[Thé šéárçh éñgíñé úšéš á fúll šúbštríñg šéárçh, áñd thé líšt íš úpdátéd áš ýóú týpé.
-Wíldçárd çháráçtérš (*, ?, étç.) áré ñót úšéd, áñd áré íñtérprétéd lítérállý.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thé šéárçh éñgíñé úšéš á fúll šúbštríñg šéárçh, áñd thé líšt íš úpdátéd áš ýóú týpé.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
+Wíldçárd çháráçtérš (*, ?, étç.) áré ñót úšéd, áñd áré íñtérprétéd lítérállý.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>This list contains all installed SPICE models of this device type. Models are added by dragging
 and dropping the model file into the command shell. The extraction algorithms extract
 parameters from the model selected in this list.</source>
-        <translation>[Thíš líšt çóñtáíñš áll íñštálléd ŠPÍÇÉ módélš óf thíš dévíçé týpé. Módélš áré áddéd bý drággíñg
-áñd dróppíñg thé módél fílé íñtó thé çómmáñd šhéll. Thé éxtráçtíóñ álgóríthmš éxtráçt
-párámétérš fróm thé módél šéléçtéd íñ thíš líšt.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thíš líšt çóñtáíñš áll íñštálléd ŠPÍÇÉ módélš óf thíš dévíçé týpé. Módélš áré áddéd bý drággíñg~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
+áñd dróppíñg thé módél fílé íñtó thé çómmáñd šhéll. Thé éxtráçtíóñ álgóríthmš éxtráçt~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
+párámétérš fróm thé módél šéléçtéd íñ thíš líšt.~~~~~~~~~~~~~~~~~]</translation>
     </message>
 </context>
 <context>
@@ -2775,7 +2775,7 @@ párámétérš fróm thé módél šéléçtéd íñ thíš líšt.~~~~~~~~~~~~
     </message>
     <message>
         <source>Parameterize </source>
-        <translation>[Párámétérízé ~~~]</translation>
+        <translation>[Párámétérízé~~~] </translation>
     </message>
 </context>
 <context>
@@ -2787,8 +2787,8 @@ párámétérš fróm thé módél šéléçtéd íñ thíš líšt.~~~~~~~~~~~~
     <message>
         <source>Save schematic to a new file without affecting displayed schematic or original file.
 </source>
-        <translation>[Šávé šçhémátíç tó á ñéw fílé wíthóút áfféçtíñg díšpláýéd šçhémátíç ór órígíñál fílé.
-~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Šávé šçhémátíç tó á ñéw fílé wíthóút áfféçtíñg díšpláýéd šçhémátíç ór órígíñál fílé.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]
+</translation>
     </message>
     <message>
         <source>Options</source>
@@ -2805,12 +2805,12 @@ párámétérš fróm thé módél šéléçtéd íñ thíš líšt.~~~~~~~~~~~~
     <message>
         <source>Complete component
 including symbol</source>
-        <translation>[Çómplété çómpóñéñt
-íñçlúdíñg šýmból~~~~~~~~~~~~]</translation>
+        <translation>[Çómplété çómpóñéñt~~~~~~~
+íñçlúdíñg šýmból~~~~]</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;body&gt;&lt;p&gt;Saves the schematic as a &lt;b&gt;component&lt;/b&gt; file: the symbol goes into the file with the schematic, so the file can be placed in another design without installing a symbol library.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;body&gt;&lt;p&gt;[Šávéš thé šçhémátíç áš á &lt;b&gt;çómpóñéñt&lt;/b&gt; fílé: thé šýmból góéš íñtó thé fílé wíth thé šçhémátíç, šó thé fílé çáñ bé pláçéd íñ áñóthér déšígñ wíthóút íñštállíñg á šýmból líbrárý.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+        <translation>&lt;html&gt;&lt;body&gt;&lt;p&gt;[Šávéš thé šçhémátíç áš á &lt;b&gt;çómpóñéñt&lt;/b&gt; fílé: thé šýmból góéš íñtó thé fílé wíth thé šçhémátíç, šó thé fílé çáñ bé pláçéd íñ áñóthér déšígñ wíthóút íñštállíñg á šýmból líbrárý.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>File</source>
@@ -2916,7 +2916,7 @@ including symbol</source>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Ohms&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;[Óhmš~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;[Óhmš~~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Help</source>
@@ -3116,7 +3116,7 @@ including symbol</source>
     </message>
     <message>
         <source>%1 Files (%2)</source>
-        <translation>[%1 Fíléš (%2)~~]</translation>
+        <translation>%1 [Fíléš (%2)~~]</translation>
     </message>
     <message>
         <source>Select Output File Name</source>
