@@ -985,6 +985,286 @@ for example one taken from a data sheet.</source>
     </message>
 </context>
 <context>
+    <name>EditBodePlotProbeDialog</name>
+    <message>
+        <source>Edit Bode Plot Probe</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Curve labels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gain Label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gain</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phase Label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Persistence</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Multiplied by -1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vertical limits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use db auto limits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Minimum limit - dB</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Maximum limit - dB</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use phase auto limits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Minimum limit - phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Maximum limit - phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Ok</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>reject</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>EditBodePlotProbeDialog2</name>
+    <message>
+        <source>Edit Bode Plot Probe</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Curves</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use separate graph</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Graph name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Probe</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disable gain/phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Persistence</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gain</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vertical scale</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Linear</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vertical axis ( check to auto calculate )</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Grid spacing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>20</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Maximum limit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>40</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Minimum limit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>-40</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Curve label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Y axis label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Curve</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phase
+- 180 degrees</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>45</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>180</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>-180</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use &lt;b&gt;Phase -180 degrees&lt;/b&gt; to plot the phase curve with 180 degree offset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Display curves on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Single grid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Two grids</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vertical order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phase above Gain</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gain above Phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Example curve output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Configuration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Configuration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save current properties as default Bode Plot Probe configuration.&lt;br&gt;New probes will automatically have these saved properties applied when placed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save settings as preferred
+Bode Plot Probe configuration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Ok</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alt+O</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alt+C</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>EditBrelvonFilter</name>
     <message>
         <source>Edit BRELVON Continuous Time / Discrete Time Filter</source>
@@ -1990,6 +2270,97 @@ Press &quot;Calculate Now&quot; to calculate and save, &quot;Cancel&quot; to ret
     </message>
 </context>
 <context>
+    <name>EfficiencyDialog</name>
+    <message>
+        <source>Vantrell/BRELVON Efficiency Calculator</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Efficiency Calculator&lt;/b&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Don&apos;t show this message again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All Power Probes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add to Inputs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add to Outputs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Input Probes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Output Probes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Ok</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alt+O</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alt+C</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Simulate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ListSubsetDialog</name>
     <message>
         <source>List Selection</source>
@@ -2017,6 +2388,125 @@ Press &quot;Calculate Now&quot; to calculate and save, &quot;Cancel&quot; to ret
     </message>
     <message>
         <source>Selected</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LoopForgeEditClocksDialog</name>
+    <message>
+        <source>LoopForge Global Clocks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>LoopForge - Edit Global Clocks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sys CLK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User6</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User7</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Index</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Graph</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Frequency (Hz)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Duty cycle (%)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delay (s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the selected clock up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the selected clock down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CLK Sync Edge</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rising</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Falling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close and Graph Clocks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Ok</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alt+O</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alt+C</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2154,6 +2644,152 @@ with a designated number of bits.</source>
     </message>
     <message>
         <source>Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LoopForgeEditProbeDialog</name>
+    <message>
+        <source>Edit LoopForge Bus Probe</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit &lt;i&gt;LoopForge&lt;/i&gt; Probe</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Curve label</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plot Integer data as</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Digital bus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Display format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Analog waveform</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Axis type for analog waveform</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Auto select</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use separate Y-axis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use separate grid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Digital</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gain</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Axis name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Graph</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use separate graph</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Graph name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Persistence</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Display order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Arbitrary string to specify order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Analyses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All analyses disabled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Integer sampled data type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Floating point sampled data type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Ok</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alt+O</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alt+C</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Multiple curves selected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The Curve label control is disabled when editing multiple probes.
+This prevents you from accidentally renaming curves to the same name.
+To edit the Curve label, you will need to edit each probe individually.
+All other properties may be edited on this dialog.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2960,6 +3596,50 @@ including symbol</source>
     </message>
 </context>
 <context>
+    <name>TestPlotter</name>
+    <message>
+        <source>Plotter Test</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wheel: zoom about the mouse (Shift: x only, Ctrl: y only). Drag: pan, or move a cursor.
++ and -: zoom. Arrow keys: pan. Home, R or a double click: back to the axes as given.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bode plot: gain and scaled phase, log frequency axis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time domain: 200,000 points of a noisy damped ringing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drag the cursors.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Ok</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alt+O</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alt+C</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>t1 = %1 ms, t2 = %2 ms, t2 - t1 = %3 ms</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>TwoFileSelectionDialog</name>
     <message>
         <source>Two File Selection Dialog</source>
@@ -3118,6 +3798,10 @@ including symbol</source>
     </message>
     <message>
         <source>Rejects the dialog</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Curves over linear or logarithmic axes</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

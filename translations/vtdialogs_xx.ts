@@ -1016,6 +1016,288 @@ fór éxámplé óñé tákéñ fróm á dátá šhéét.~~~~~~~~~~~~~~]</transl
     </message>
 </context>
 <context>
+    <name>EditBodePlotProbeDialog</name>
+    <message>
+        <source>Edit Bode Plot Probe</source>
+        <translation>[Édít Bódé Plót Próbé~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Curve labels</source>
+        <translation>[Çúrvé lábélš~~~]</translation>
+    </message>
+    <message>
+        <source>Gain Label</source>
+        <translation>[Gáíñ Lábél~~]</translation>
+    </message>
+    <message>
+        <source>Gain</source>
+        <translation>[Gáíñ~]</translation>
+    </message>
+    <message>
+        <source>Phase Label</source>
+        <translation>[Phášé Lábél~~]</translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation>[Phášé~]</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>[Própértíéš~~]</translation>
+    </message>
+    <message>
+        <source>Persistence</source>
+        <translation>[Péršíštéñçé~~]</translation>
+    </message>
+    <message>
+        <source>Multiplied by -1</source>
+        <translation>[Múltíplíéd bý -1~~~~]</translation>
+    </message>
+    <message>
+        <source>Disable</source>
+        <translation>[Díšáblé~]</translation>
+    </message>
+    <message>
+        <source>Vertical limits</source>
+        <translation>[Vértíçál límítš~~~~]</translation>
+    </message>
+    <message>
+        <source>Use db auto limits</source>
+        <translation>[Úšé db áútó límítš~~~~~]</translation>
+    </message>
+    <message>
+        <source>Minimum limit - dB</source>
+        <translation>[Míñímúm límít - dB~~~~~]</translation>
+    </message>
+    <message>
+        <source>Maximum limit - dB</source>
+        <translation>[Máxímúm límít - dB~~~~~]</translation>
+    </message>
+    <message>
+        <source>Use phase auto limits</source>
+        <translation>[Úšé phášé áútó límítš~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Minimum limit - phase</source>
+        <translation>[Míñímúm límít - phášé~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Maximum limit - phase</source>
+        <translation>[Máxímúm límít - phášé~~~~~~]</translation>
+    </message>
+    <message>
+        <source>&amp;Ok</source>
+        <translation>[&amp;Ók~]</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>[&amp;Çáñçél~]</translation>
+    </message>
+    <message>
+        <source>reject</source>
+        <translation>[réjéçt~]</translation>
+    </message>
+</context>
+<context>
+    <name>EditBodePlotProbeDialog2</name>
+    <message>
+        <source>Edit Bode Plot Probe</source>
+        <translation>[Édít Bódé Plót Próbé~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Curves</source>
+        <translation>[Çúrvéš~]</translation>
+    </message>
+    <message>
+        <source>Use separate graph</source>
+        <translation>[Úšé šépáráté gráph~~~~~]</translation>
+    </message>
+    <message>
+        <source>Graph name</source>
+        <translation>[Gráph ñámé~~]</translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation>[défáúlt~]</translation>
+    </message>
+    <message>
+        <source>Probe</source>
+        <translation>[Próbé~]</translation>
+    </message>
+    <message>
+        <source>Disable gain/phase</source>
+        <translation>[Díšáblé gáíñ/phášé~~~~~]</translation>
+    </message>
+    <message>
+        <source>Persistence</source>
+        <translation>[Péršíštéñçé~~]</translation>
+    </message>
+    <message>
+        <source>Use default</source>
+        <translation>[Úšé défáúlt~~]</translation>
+    </message>
+    <message>
+        <source>Gain</source>
+        <translation>[Gáíñ~]</translation>
+    </message>
+    <message>
+        <source>Vertical scale</source>
+        <translation>[Vértíçál šçálé~~~~]</translation>
+    </message>
+    <message>
+        <source>dB</source>
+        <translation>[dB~]</translation>
+    </message>
+    <message>
+        <source>Linear</source>
+        <translation>[Líñéár~]</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>[Çólóúr~]</translation>
+    </message>
+    <message>
+        <source>Edit...</source>
+        <translation>[Édít...~]</translation>
+    </message>
+    <message>
+        <source>Vertical axis ( check to auto calculate )</source>
+        <translation>[Vértíçál áxíš ( çhéçk tó áútó çálçúláté )~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Grid spacing</source>
+        <translation>[Gríd špáçíñg~~~]</translation>
+    </message>
+    <message>
+        <source>20</source>
+        <translation>[20~]</translation>
+    </message>
+    <message>
+        <source>Maximum limit</source>
+        <translation>[Máxímúm límít~~~]</translation>
+    </message>
+    <message>
+        <source>40</source>
+        <translation>[40~]</translation>
+    </message>
+    <message>
+        <source>Minimum limit</source>
+        <translation>[Míñímúm límít~~~]</translation>
+    </message>
+    <message>
+        <source>-40</source>
+        <translation>[-40~]</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>[Lábélš~]</translation>
+    </message>
+    <message>
+        <source>Curve label</source>
+        <translation>[Çúrvé lábél~~]</translation>
+    </message>
+    <message>
+        <source>Y axis label</source>
+        <translation>[Ý áxíš lábél~~~]</translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation>[Phášé~]</translation>
+    </message>
+    <message>
+        <source>Curve</source>
+        <translation>[Çúrvé~]</translation>
+    </message>
+    <message>
+        <source>Phase
+- 180 degrees</source>
+        <translation>[Phášé~~
+- 180 dégrééš~~~]</translation>
+    </message>
+    <message>
+        <source>45</source>
+        <translation>[45~]</translation>
+    </message>
+    <message>
+        <source>180</source>
+        <translation>[180~]</translation>
+    </message>
+    <message>
+        <source>-180</source>
+        <translation>[-180~]</translation>
+    </message>
+    <message>
+        <source>Use &lt;b&gt;Phase -180 degrees&lt;/b&gt; to plot the phase curve with 180 degree offset</source>
+        <translation>[Úšé &lt;b&gt;Phášé -180 dégrééš&lt;/b&gt; tó plót thé phášé çúrvé wíth 180 dégréé óffšét~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Display curves on</source>
+        <translation>[Díšpláý çúrvéš óñ~~~~~]</translation>
+    </message>
+    <message>
+        <source>Single grid</source>
+        <translation>[Šíñglé gríd~~]</translation>
+    </message>
+    <message>
+        <source>Two grids</source>
+        <translation>[Twó grídš~~]</translation>
+    </message>
+    <message>
+        <source>Vertical order</source>
+        <translation>[Vértíçál órdér~~~~]</translation>
+    </message>
+    <message>
+        <source>Phase above Gain</source>
+        <translation>[Phášé ábóvé Gáíñ~~~~]</translation>
+    </message>
+    <message>
+        <source>Gain above Phase</source>
+        <translation>[Gáíñ ábóvé Phášé~~~~]</translation>
+    </message>
+    <message>
+        <source>Example curve output</source>
+        <translation>[Éxámplé çúrvé óútpút~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Configuration</source>
+        <translation>[Çóñfígúrátíóñ~~~]</translation>
+    </message>
+    <message>
+        <source>Save Configuration</source>
+        <translation>[Šávé Çóñfígúrátíóñ~~~~~]</translation>
+    </message>
+    <message>
+        <source>Save current properties as default Bode Plot Probe configuration.&lt;br&gt;New probes will automatically have these saved properties applied when placed.</source>
+        <translation>[Šávé çúrréñt própértíéš áš défáúlt Bódé Plót Próbé çóñfígúrátíóñ.~~~~~~~~~~~~~~~~~~~~~~~~~~&lt;br&gt;Ñéw próbéš wíll áútómátíçállý hávé théšé šávéd própértíéš ápplíéd whéñ pláçéd.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Save settings as preferred
+Bode Plot Probe configuration</source>
+        <translation>[Šávé šéttíñgš áš préférréd~~~~~~~~~~
+Bódé Plót Próbé çóñfígúrátíóñ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>[Hélp~]</translation>
+    </message>
+    <message>
+        <source>&amp;Ok</source>
+        <translation>[&amp;Ók~]</translation>
+    </message>
+    <message>
+        <source>Alt+O</source>
+        <translation>[Ált+Ó~]</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>[&amp;Çáñçél~]</translation>
+    </message>
+    <message>
+        <source>Alt+C</source>
+        <translation>[Ált+Ç~]</translation>
+    </message>
+</context>
+<context>
     <name>EditBrelvonFilter</name>
     <message>
         <source>Edit BRELVON Continuous Time / Discrete Time Filter</source>
@@ -2032,6 +2314,97 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     </message>
 </context>
 <context>
+    <name>EfficiencyDialog</name>
+    <message>
+        <source>Vantrell/BRELVON Efficiency Calculator</source>
+        <translation>[Váñtréll/BRÉLVÓÑ Éffíçíéñçý Çálçúlátór~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Efficiency Calculator&lt;/b&gt;</source>
+        <translation>&lt;b&gt;[Éffíçíéñçý Çálçúlátór~~~~~~]&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>[téxt~]</translation>
+    </message>
+    <message>
+        <source>Don't show this message again</source>
+        <translation>[Dóñ't šhów thíš méššágé ágáíñ~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>All Power Probes</source>
+        <translation>[Áll Pówér Próbéš~~~~]</translation>
+    </message>
+    <message>
+        <source>Add to Inputs</source>
+        <translation>[Ádd tó Íñpútš~~~]</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>[Rémóvé~]</translation>
+    </message>
+    <message>
+        <source>Add to Outputs</source>
+        <translation>[Ádd tó Óútpútš~~~~]</translation>
+    </message>
+    <message>
+        <source>Input Probes</source>
+        <translation>[Íñpút Próbéš~~~]</translation>
+    </message>
+    <message>
+        <source>Output Probes</source>
+        <translation>[Óútpút Próbéš~~~]</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>[Hélp~]</translation>
+    </message>
+    <message>
+        <source>&amp;Ok</source>
+        <translation>[&amp;Ók~]</translation>
+    </message>
+    <message>
+        <source>Alt+O</source>
+        <translation>[Ált+Ó~]</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>[&amp;Çáñçél~]</translation>
+    </message>
+    <message>
+        <source>Alt+C</source>
+        <translation>[Ált+Ç~]</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>[Ók~]</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>[Çóñtíñúé~]</translation>
+    </message>
+    <message>
+        <source>Simulate</source>
+        <translation>[Šímúláté~]</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>[Ýéš~]</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>[Çlóšé~]</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>[Ñó~]</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>[Çáñçél~]</translation>
+    </message>
+</context>
+<context>
     <name>ListSubsetDialog</name>
     <message>
         <source>List Selection</source>
@@ -2060,6 +2433,125 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     <message>
         <source>Selected</source>
         <translation>[Šéléçtéd~]</translation>
+    </message>
+</context>
+<context>
+    <name>LoopForgeEditClocksDialog</name>
+    <message>
+        <source>LoopForge Global Clocks</source>
+        <translation>[LóópFórgé Glóbál Çlóçkš~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>LoopForge - Edit Global Clocks</source>
+        <translation>[LóópFórgé - Édít Glóbál Çlóçkš~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Sys CLK</source>
+        <translation>[Šýš ÇLK~]</translation>
+    </message>
+    <message>
+        <source>User1</source>
+        <translation>[Úšér1~]</translation>
+    </message>
+    <message>
+        <source>User2</source>
+        <translation>[Úšér2~]</translation>
+    </message>
+    <message>
+        <source>User3</source>
+        <translation>[Úšér3~]</translation>
+    </message>
+    <message>
+        <source>User4</source>
+        <translation>[Úšér4~]</translation>
+    </message>
+    <message>
+        <source>User5</source>
+        <translation>[Úšér5~]</translation>
+    </message>
+    <message>
+        <source>User6</source>
+        <translation>[Úšér6~]</translation>
+    </message>
+    <message>
+        <source>User7</source>
+        <translation>[Úšér7~]</translation>
+    </message>
+    <message>
+        <source>Index</source>
+        <translation>[Íñdéx~]</translation>
+    </message>
+    <message>
+        <source>Enable</source>
+        <translation>[Éñáblé~]</translation>
+    </message>
+    <message>
+        <source>Graph</source>
+        <translation>[Gráph~]</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>[Lábél~]</translation>
+    </message>
+    <message>
+        <source>Frequency (Hz)</source>
+        <translation>[Fréqúéñçý (Hz)~~~~]</translation>
+    </message>
+    <message>
+        <source>Duty cycle (%)</source>
+        <translation>[Dútý çýçlé (%)~~~~]</translation>
+    </message>
+    <message>
+        <source>Delay (s)</source>
+        <translation>[Déláý (š)~~]</translation>
+    </message>
+    <message>
+        <source>Move the selected clock up</source>
+        <translation>[Móvé thé šéléçtéd çlóçk úp~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Move the selected clock down</source>
+        <translation>[Móvé thé šéléçtéd çlóçk dówñ~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>CLK Sync Edge</source>
+        <translation>[ÇLK Šýñç Édgé~~~]</translation>
+    </message>
+    <message>
+        <source>Rising</source>
+        <translation>[Ríšíñg~]</translation>
+    </message>
+    <message>
+        <source>Falling</source>
+        <translation>[Fállíñg~]</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>[Hélp~]</translation>
+    </message>
+    <message>
+        <source>Close and Graph Clocks</source>
+        <translation>[Çlóšé áñd Gráph Çlóçkš~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>&amp;Ok</source>
+        <translation>[&amp;Ók~]</translation>
+    </message>
+    <message>
+        <source>Alt+O</source>
+        <translation>[Ált+Ó~]</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>[&amp;Çáñçél~]</translation>
+    </message>
+    <message>
+        <source>Alt+C</source>
+        <translation>[Ált+Ç~]</translation>
+    </message>
+    <message>
+        <source>User %1</source>
+        <translation>[Úšér %1~]</translation>
     </message>
 </context>
 <context>
@@ -2200,6 +2692,155 @@ wíth á déšígñátéd ñúmbér óf bítš.~~~~~~~~~~~]</translation>
     <message>
         <source>Help</source>
         <translation>[Hélp~]</translation>
+    </message>
+</context>
+<context>
+    <name>LoopForgeEditProbeDialog</name>
+    <message>
+        <source>Edit LoopForge Bus Probe</source>
+        <translation>[Édít LóópFórgé Búš Próbé~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Edit &lt;i&gt;LoopForge&lt;/i&gt; Probe</source>
+        <translation>[Édít &lt;i&gt;LóópFórgé&lt;/i&gt; Próbé~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Curve label</source>
+        <translation>[Çúrvé lábél~~]</translation>
+    </message>
+    <message>
+        <source>Plot Integer data as</source>
+        <translation>[Plót Íñtégér dátá áš~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Digital bus</source>
+        <translation>[Dígítál búš~~]</translation>
+    </message>
+    <message>
+        <source>Display format</source>
+        <translation>[Díšpláý fórmát~~~~]</translation>
+    </message>
+    <message>
+        <source>Analog waveform</source>
+        <translation>[Áñálóg wávéfórm~~~~]</translation>
+    </message>
+    <message>
+        <source>Axis type for analog waveform</source>
+        <translation>[Áxíš týpé fór áñálóg wávéfórm~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Auto select</source>
+        <translation>[Áútó šéléçt~~]</translation>
+    </message>
+    <message>
+        <source>Use separate Y-axis</source>
+        <translation>[Úšé šépáráté Ý-áxíš~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Use separate grid</source>
+        <translation>[Úšé šépáráté gríd~~~~~]</translation>
+    </message>
+    <message>
+        <source>Digital</source>
+        <translation>[Dígítál~]</translation>
+    </message>
+    <message>
+        <source>Gain</source>
+        <translation>[Gáíñ~]</translation>
+    </message>
+    <message>
+        <source>Axis name</source>
+        <translation>[Áxíš ñámé~~]</translation>
+    </message>
+    <message>
+        <source>Graph</source>
+        <translation>[Gráph~]</translation>
+    </message>
+    <message>
+        <source>Use separate graph</source>
+        <translation>[Úšé šépáráté gráph~~~~~]</translation>
+    </message>
+    <message>
+        <source>Graph name</source>
+        <translation>[Gráph ñámé~~]</translation>
+    </message>
+    <message>
+        <source>Persistence</source>
+        <translation>[Péršíštéñçé~~]</translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation>[défáúlt~]</translation>
+    </message>
+    <message>
+        <source>Display order</source>
+        <translation>[Díšpláý órdér~~~]</translation>
+    </message>
+    <message>
+        <source>Arbitrary string to specify order</source>
+        <translation>[Árbítrárý štríñg tó špéçífý órdér~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>[Çólóúr~]</translation>
+    </message>
+    <message>
+        <source>Use default</source>
+        <translation>[Úšé défáúlt~~]</translation>
+    </message>
+    <message>
+        <source>Edit...</source>
+        <translation>[Édít...~]</translation>
+    </message>
+    <message>
+        <source>Analyses</source>
+        <translation>[Áñálýšéš~]</translation>
+    </message>
+    <message>
+        <source>All analyses disabled</source>
+        <translation>[Áll áñálýšéš díšábléd~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Integer sampled data type</source>
+        <translation>[Íñtégér šámpléd dátá týpé~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Floating point sampled data type</source>
+        <translation>[Flóátíñg póíñt šámpléd dátá týpé~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>[Hélp~]</translation>
+    </message>
+    <message>
+        <source>&amp;Ok</source>
+        <translation>[&amp;Ók~]</translation>
+    </message>
+    <message>
+        <source>Alt+O</source>
+        <translation>[Ált+Ó~]</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>[&amp;Çáñçél~]</translation>
+    </message>
+    <message>
+        <source>Alt+C</source>
+        <translation>[Ált+Ç~]</translation>
+    </message>
+    <message>
+        <source>Multiple curves selected</source>
+        <translation>[Múltíplé çúrvéš šéléçtéd~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>The Curve label control is disabled when editing multiple probes.
+This prevents you from accidentally renaming curves to the same name.
+To edit the Curve label, you will need to edit each probe individually.
+All other properties may be edited on this dialog.</source>
+        <translation>[Thé Çúrvé lábél çóñtról íš díšábléd whéñ édítíñg múltíplé próbéš.~~~~~~~~~~~~~~~~~~~~~~~~~~
+Thíš prévéñtš ýóú fróm áççídéñtállý réñámíñg çúrvéš tó thé šámé ñámé.~~~~~~~~~~~~~~~~~~~~~~~~~~~~
+Tó édít thé Çúrvé lábél, ýóú wíll ñééd tó édít éáçh próbé íñdívídúállý.~~~~~~~~~~~~~~~~~~~~~~~~~~~~
+Áll óthér própértíéš máý bé édítéd óñ thíš díálóg.~~~~~~~~~~~~~~~~~~]</translation>
     </message>
 </context>
 <context>
@@ -3037,6 +3678,51 @@ including symbol</source>
     </message>
 </context>
 <context>
+    <name>TestPlotter</name>
+    <message>
+        <source>Plotter Test</source>
+        <translation>[Plóttér Téšt~~~]</translation>
+    </message>
+    <message>
+        <source>Wheel: zoom about the mouse (Shift: x only, Ctrl: y only). Drag: pan, or move a cursor.
++ and -: zoom. Arrow keys: pan. Home, R or a double click: back to the axes as given.</source>
+        <translation>[Whéél: zóóm ábóút thé móúšé (Šhíft: x óñlý, Çtrl: ý óñlý). Drág: páñ, ór móvé á çúršór.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
++ áñd -: zóóm. Árrów kéýš: páñ. Hómé, R ór á dóúblé çlíçk: báçk tó thé áxéš áš gívéñ.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Bode plot: gain and scaled phase, log frequency axis</source>
+        <translation>[Bódé plót: gáíñ áñd šçáléd phášé, lóg fréqúéñçý áxíš~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Time domain: 200,000 points of a noisy damped ringing</source>
+        <translation>[Tímé dómáíñ: 200,000 póíñtš óf á ñóíšý dámpéd ríñgíñg~~~~~~~~~~~~~~~~~~~]</translation>
+    </message>
+    <message>
+        <source>Drag the cursors.</source>
+        <translation>[Drág thé çúršórš.~~~~~]</translation>
+    </message>
+    <message>
+        <source>&amp;Ok</source>
+        <translation>[&amp;Ók~]</translation>
+    </message>
+    <message>
+        <source>Alt+O</source>
+        <translation>[Ált+Ó~]</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>[&amp;Çáñçél~]</translation>
+    </message>
+    <message>
+        <source>Alt+C</source>
+        <translation>[Ált+Ç~]</translation>
+    </message>
+    <message>
+        <source>t1 = %1 ms, t2 = %2 ms, t2 - t1 = %3 ms</source>
+        <translation>[t1 = %1 mš, t2 = %2 mš, t2 - t1 = %3 mš~~~~~~~~~~~]</translation>
+    </message>
+</context>
+<context>
     <name>TwoFileSelectionDialog</name>
     <message>
         <source>Two File Selection Dialog</source>
@@ -3196,6 +3882,10 @@ including symbol</source>
     <message>
         <source>Rejects the dialog</source>
         <translation>[Réjéçtš thé díálóg~~~~~]</translation>
+    </message>
+    <message>
+        <source>Curves over linear or logarithmic axes</source>
+        <translation>[Çúrvéš óvér líñéár ór lógáríthmíç áxéš~~~~~~~~~~~~~]</translation>
     </message>
 </context>
 <context>
