@@ -73,30 +73,7 @@ QStringList driverValues(const QString& level)
             "100m", "3"};
 }
 
-// Runs look on the first dialog the call shows, before any step; the
-// script's first step waits for the title "probed" that look leaves, so
-// the look and the steps never race.
-class Probe {
-public:
-    explicit Probe(std::function<void(QDialog*)> look)
-        : m_look(std::move(look))
-    {
-        m_timer.setInterval(5);
-        QObject::connect(&m_timer, &QTimer::timeout, [this] {
-            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            if (!dialog || !dialog->isVisible())
-                return;
-            m_timer.stop();
-            m_look(dialog);
-            dialog->setWindowTitle(QStringLiteral("probed"));
-        });
-        m_timer.start();
-    }
-
-private:
-    std::function<void(QDialog*)> m_look;
-    QTimer m_timer;
-};
+using Probe = ShownDialogProbe;
 
 // "object.property" of a child ("property" of the dialog), as text;
 // "stack.page" is the object name of a stacked widget's current page.
