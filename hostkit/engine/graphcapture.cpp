@@ -190,6 +190,9 @@ GraphCaptureDialog::GraphCaptureDialog(const QImage& image, QWidget* parent)
     layout->addLayout(top, 1);
     layout->addWidget(buttons);
     updateStatus();
+    // The picture's own size, not the share of a small screen that a
+    // dialog takes by default.
+    resize(sizeHint());
 }
 
 GraphCaptureDialog::~GraphCaptureDialog() = default;
