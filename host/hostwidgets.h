@@ -632,6 +632,10 @@ private:
         std::vector<double> data;
         QPen pen;
         bool sortedX = false; // x ascending and never NaN
+        // Of sorted data, per block of points: the lowest and the highest
+        // y, both NaN where a y isn't finite; so a column of many points is
+        // reduced by reading its summaries rather than its points.
+        std::vector<double> blocks;
     };
     struct Drag;
 

@@ -10,7 +10,18 @@
 #include <cmath>
 #include <limits>
 
+#include <vector>
+
 namespace plotter {
+
+// Points per block of a sorted curve's summary: the summary costs 1/64 of
+// the data's memory and spares all but the two partial blocks at a
+// column's ends.
+constexpr std::size_t kBlock = 64;
+
+// The summary of flat x, y data: lowest and highest y of each whole block
+// of kBlock points, both NaN for a block holding a y that isn't finite.
+std::vector<double> blockExtremes(const std::vector<double>& data);
 
 // Continuous pixel position along one axis: pixel = origin + (t(v) - t0) * k,
 // where t is log10 on a logarithmic axis. Pixel p covers [p, p + 1).

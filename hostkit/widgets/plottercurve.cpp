@@ -16,6 +16,10 @@
 #include <algorithm>
 #include <cmath>
 
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
 namespace {
 
 using plotter::Scale;
@@ -198,12 +202,92 @@ void emitColumn(PolylineSink& sink, const Scale& y, const Column& c)
         sink.point(QPointF(x, rowCentre(y, v)));
 }
 
+// The lowest and highest y of the points [k, j) of flat x, y data, with
+// low and high to start from, and whether every y there is finite.
+struct RunExtremes {
+    double low, high;
+    bool finite;
+};
+
+// The extremes on independent chains with no branch on the values, which
+// noisy data would make unpredictable. v * 0 is 0 for every finite v and
+// NaN otherwise, so one sum tells whether the run holds a value that can't
+// be shown.
+RunExtremes runExtremes(const double* d, std::size_t k, std::size_t j, double low, double high)
+{
+    double nonFinite = 0.0;
+#if defined(__SSE2__)
+    // Two points' y values per register, gathered from two x, y pairs.
+    const __m128d zero = _mm_setzero_pd();
+    __m128d lo0 = _mm_set1_pd(low), lo1 = lo0, hi0 = _mm_set1_pd(high), hi1 = hi0;
+    __m128d nf0 = zero, nf1 = zero;
+    for (; k + 4 <= j; k += 4) {
+        const double* p = d + 2 * k;
+        const __m128d y0 = _mm_unpackhi_pd(_mm_loadu_pd(p), _mm_loadu_pd(p + 2));
+        const __m128d y1 = _mm_unpackhi_pd(_mm_loadu_pd(p + 4), _mm_loadu_pd(p + 6));
+        lo0 = _mm_min_pd(y0, lo0);
+        lo1 = _mm_min_pd(y1, lo1);
+        hi0 = _mm_max_pd(y0, hi0);
+        hi1 = _mm_max_pd(y1, hi1);
+        nf0 = _mm_add_pd(nf0, _mm_mul_pd(y0, zero));
+        nf1 = _mm_add_pd(nf1, _mm_mul_pd(y1, zero));
+    }
+    lo0 = _mm_min_pd(lo0, lo1);
+    hi0 = _mm_max_pd(hi0, hi1);
+    nf0 = _mm_add_pd(nf0, nf1);
+    low = std::min(_mm_cvtsd_f64(lo0), _mm_cvtsd_f64(_mm_unpackhi_pd(lo0, lo0)));
+    high = std::max(_mm_cvtsd_f64(hi0), _mm_cvtsd_f64(_mm_unpackhi_pd(hi0, hi0)));
+    nonFinite = _mm_cvtsd_f64(nf0) + _mm_cvtsd_f64(_mm_unpackhi_pd(nf0, nf0));
+#endif
+    for (; k < j; ++k) {
+        const double v = d[2 * k + 1];
+        low = v < low ? v : low;
+        high = v > high ? v : high;
+        nonFinite += v * 0.0;
+    }
+    return RunExtremes{low, high, nonFinite == 0.0};
+}
+
+// runExtremes over the summary where the run spans whole blocks.
+RunExtremes runExtremes(const std::vector<double>& d, const std::vector<double>& blocks,
+                        std::size_t k, std::size_t j, double low, double high)
+{
+    using plotter::kBlock;
+    const std::size_t first = (k + kBlock - 1) / kBlock, end = j / kBlock;
+    if (first >= end || 2 * end > blocks.size())
+        return runExtremes(d.data(), k, j, low, high);
+    RunExtremes run = runExtremes(d.data(), k, first * kBlock, low, high);
+    for (std::size_t b = first; b < end; ++b) {
+        const double blockLow = blocks[2 * b], blockHigh = blocks[2 * b + 1];
+        run.finite = run.finite && !std::isnan(blockLow);
+        run.low = blockLow < run.low ? blockLow : run.low;
+        run.high = blockHigh > run.high ? blockHigh : run.high;
+    }
+    const RunExtremes tail = runExtremes(d.data(), end * kBlock, j, run.low, run.high);
+    return RunExtremes{tail.low, tail.high, run.finite && tail.finite};
+}
+
 bool showable(const Scale& s, double v)
 {
     return std::isfinite(v) && (!s.log || v > 0.0);
 }
 
 } // namespace
+
+std::vector<double> plotter::blockExtremes(const std::vector<double>& data)
+{
+    const std::size_t blocks = data.size() / 2 / kBlock;
+    std::vector<double> summary;
+    summary.reserve(2 * blocks);
+    const double inf = std::numeric_limits<double>::infinity();
+    for (std::size_t b = 0; b < blocks; ++b) {
+        const RunExtremes run = runExtremes(data.data(), b * kBlock, (b + 1) * kBlock, inf, -inf);
+        const double nan = std::numeric_limits<double>::quiet_NaN();
+        summary.push_back(run.finite ? run.low : nan);
+        summary.push_back(run.finite ? run.high : nan);
+    }
+    return summary;
+}
 
 void Plotter::drawCurve(QPainter& p, const QRect& area, const Curve& curve) const
 {
@@ -259,8 +343,7 @@ void Plotter::drawCurve(QPainter& p, const QRect& area, const Curve& curve) cons
         if (!col.open || c != col.index)
             col = Column{c, y, y, y, y, true};
         // The rest of the column's run: where x leaves the column, then the
-        // extremes of y there on four independent chains, with no branch on
-        // the values, which noisy data would make unpredictable.
+        // extremes of y there.
         const double lo = columns.lowBound(), hi = columns.highBound();
         std::size_t j = i + 1;
         if (curve.sortedX) {
@@ -282,44 +365,22 @@ void Plotter::drawCurve(QPainter& p, const QRect& area, const Curve& curve) cons
             while (j < n && d[2 * j] >= lo && d[2 * j] < hi)
                 ++j;
         }
-        double lows[4] = {col.low, col.low, col.low, col.low};
-        double highs[4] = {col.high, col.high, col.high, col.high};
-        // v * 0 is 0 for every finite v and NaN otherwise, so one sum tells
-        // whether the run holds a value that can't be shown.
-        double nonFinite[4] = {0.0, 0.0, 0.0, 0.0};
-        std::size_t k = i + 1;
-        for (; k + 4 <= j; k += 4) {
-            for (int u = 0; u < 4; ++u) {
-                const double v = d[2 * (k + u) + 1];
-                lows[u] = v < lows[u] ? v : lows[u];
-                highs[u] = v > highs[u] ? v : highs[u];
-                nonFinite[u] += v * 0.0;
-            }
-        }
-        for (; k < j; ++k) {
-            const double v = d[2 * k + 1];
-            lows[0] = v < lows[0] ? v : lows[0];
-            highs[0] = v > highs[0] ? v : highs[0];
-            nonFinite[0] += v * 0.0;
-        }
-        const double runLow = std::min({lows[0], lows[1], lows[2], lows[3]});
-        const bool bad = !(nonFinite[0] + nonFinite[1] + nonFinite[2] + nonFinite[3] == 0.0)
-                         || (logY && !(runLow > 0.0));
+        RunExtremes run = runExtremes(d, curve.blocks, i + 1, j, col.low, col.high);
+        const bool bad = !run.finite || (logY && !(run.low > 0.0));
         if (bad) {
             // A value that can't be shown ends the run; rare, so done again
             // one by one up to it.
             j = i + 1;
             while (j < n && d[2 * j] >= lo && d[2 * j] < hi && showable(sy, d[2 * j + 1]))
                 ++j;
-            std::fill(lows, lows + 4, col.low);
-            std::fill(highs, highs + 4, col.high);
-            for (k = i + 1; k < j; ++k) {
-                lows[0] = std::min(lows[0], d[2 * k + 1]);
-                highs[0] = std::max(highs[0], d[2 * k + 1]);
+            run = RunExtremes{col.low, col.high, true};
+            for (std::size_t k = i + 1; k < j; ++k) {
+                run.low = std::min(run.low, d[2 * k + 1]);
+                run.high = std::max(run.high, d[2 * k + 1]);
             }
         }
-        col.low = std::min({lows[0], lows[1], lows[2], lows[3]});
-        col.high = std::max({highs[0], highs[1], highs[2], highs[3]});
+        col.low = run.low;
+        col.high = run.high;
         col.last = d[2 * (j - 1) + 1];
         i = j;
     }
