@@ -54,6 +54,93 @@ bool ScriptValue::operator==(const ScriptValue& o) const
 
 namespace {
 
+#if defined(__SANITIZE_ADDRESS__)
+#define VT_ADDRESS_SANITIZER 1
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define VT_ADDRESS_SANITIZER 1
+#endif
+#endif
+#ifdef VT_ADDRESS_SANITIZER
+#include <sanitizer/asan_interface.h>
+#endif
+
+// DupString copies of one call, packed into blocks that are freed when the
+// call ends: splitting a large text makes a copy per part, and a malloc and
+// a free for each would cost more than the splitting.
+class StringArena {
+public:
+    StringArena() = default;
+    StringArena(const StringArena&) = delete;
+    StringArena& operator=(const StringArena&) = delete;
+    ~StringArena()
+    {
+        for (const Block& b : m_blocks) {
+            unpoison(b.data, b.size);
+            std::free(b.data);
+        }
+    }
+
+    // Null when memory is out.
+    char* copy(const char* text, std::size_t size)
+    {
+        char* at = nullptr;
+        if (size > kBlockSize / 8) {
+            at = newBlock(size, false); // a long text gets a block of its own
+        } else {
+            const std::size_t step = (size + kGap + kAlign - 1) / kAlign * kAlign;
+            if (step > m_left) {
+                m_next = newBlock(kBlockSize, true);
+                m_left = m_next ? kBlockSize : 0;
+            }
+            if (m_next) {
+                at = m_next;
+                m_next += step;
+                m_left -= std::min(step, m_left);
+            }
+        }
+        if (at) {
+            unpoison(at, size);
+            std::memcpy(at, text, size);
+        }
+        return at;
+    }
+
+private:
+    struct Block {
+        char* data;
+        std::size_t size;
+    };
+    static constexpr std::size_t kBlockSize = 64 * 1024;
+#ifdef VT_ADDRESS_SANITIZER
+    // Copies stand apart on poisoned memory, so that a handler writing past
+    // one is caught rather than overwriting the next.
+    static constexpr std::size_t kAlign = 8, kGap = 8;
+    static void poison(char* p, std::size_t n) { ASAN_POISON_MEMORY_REGION(p, n); }
+    static void unpoison(char* p, std::size_t n) { ASAN_UNPOISON_MEMORY_REGION(p, n); }
+#else
+    static constexpr std::size_t kAlign = 1, kGap = 0;
+    static void poison(char*, std::size_t) {}
+    static void unpoison(char*, std::size_t) {}
+#endif
+
+    char* newBlock(std::size_t size, bool shared)
+    {
+        m_blocks.reserve(m_blocks.size() + 1);
+        char* block = static_cast<char*>(std::malloc(size));
+        if (block) {
+            m_blocks.push_back(Block{block, size});
+            if (shared)
+                poison(block, size);
+        }
+        return block;
+    }
+
+    std::vector<Block> m_blocks;
+    char* m_next = nullptr;
+    std::size_t m_left = 0;
+};
+
 // Everything one call hands out. Buffers stay put (deque) until the call
 // ends, because a handler may keep any pointer it was given until it returns.
 struct CallContext {
@@ -63,7 +150,7 @@ struct CallContext {
     std::deque<std::vector<char*>> stringResults;
     std::deque<std::vector<double>> realBuffers;
     std::deque<std::string> texts;
-    std::vector<char*> duplicates; // DupString copies, freed when the call ends
+    StringArena duplicates; // DupString copies
 
     enum class Made { None, Strings, Reals } made = Made::None;
     std::vector<char*>* strings = nullptr;
@@ -75,12 +162,6 @@ struct CallContext {
     const char* units = "";
     const char* xUnits = "";
     int notifications = 0;
-
-    ~CallContext()
-    {
-        for (char* p : duplicates)
-            std::free(p);
-    }
 
     const char* keep(const char* text)
     {
@@ -148,12 +229,16 @@ char* dupString(const char* text)
 {
     const char* src = text ? text : "";
     const std::size_t n = std::strlen(src) + 1;
-    char* copy = static_cast<char*>(std::malloc(n));
+    char* copy = nullptr;
+    if (!t_calls.empty()) {
+        copy = t_calls.back()->duplicates.copy(src, n);
+    } else if ((copy = static_cast<char*>(std::malloc(n)))) {
+        // Outside a call nothing would free it: the copy is the caller's,
+        // as the host's own DupString gives it.
+        std::memcpy(copy, src, n);
+    }
     if (!copy)
         throw MemoryException("*** Fatal error, out of memory ***\nDetected in DupString");
-    std::memcpy(copy, src, n);
-    if (!t_calls.empty())
-        t_calls.back()->duplicates.push_back(copy);
     return copy;
 }
 
