@@ -2,6 +2,7 @@
 // so the parse can be tested and fuzzed on its own.
 #include "ParameterPages.h"
 
+#include "dialogcommon.h"
 #include "hostsupport.h"
 
 #include <algorithm>
@@ -79,28 +80,7 @@ QStringList splitDescriptor(const QString& descriptor)
 
 int atoiText(const QString& text)
 {
-    int i = 0;
-    const int n = text.size();
-    while (i < n && (text.at(i) == QLatin1Char(' ') || (text.at(i).unicode() >= 9 && text.at(i).unicode() <= 13)))
-        ++i;
-    bool negative = false;
-    if (i < n && (text.at(i) == QLatin1Char('+') || text.at(i) == QLatin1Char('-'))) {
-        negative = text.at(i) == QLatin1Char('-');
-        ++i;
-    }
-    long long value = 0;
-    for (; i < n && text.at(i) >= QLatin1Char('0') && text.at(i) <= QLatin1Char('9'); ++i) {
-        value = value * 10 + (text.at(i).unicode() - '0');
-        if (value > static_cast<long long>(INT_MAX) + 1)
-            value = static_cast<long long>(INT_MAX) + 1; // saturate, keep reading digits
-    }
-    if (negative)
-        value = -value;
-    if (value > INT_MAX)
-        return INT_MAX;
-    if (value < INT_MIN)
-        return INT_MIN;
-    return static_cast<int>(value);
+    return dialogcommon::leadingInt(text);
 }
 
 QString replaceUnitPlaceholders(const QString& unit)

@@ -101,15 +101,12 @@ const Device kDevices[] = {
 };
 enum DeviceIndex { Diode, Mos, Igbt, Jfet, Zener, Bjt };
 
-int atoiOf(const QString& text)
-{
-    return std::atoi(text.toLatin1().constData());
-}
+using dialogcommon::leadingInt;
 
 // The zener's segment count shows as "3 Segment Zener" for anything below 5.
 void setZenerSegments(QComboBox* box, const QString& text)
 {
-    box->setCurrentIndex(atoiOf(text) < 5 ? 0 : 1);
+    box->setCurrentIndex(leadingInt(text) < 5 ? 0 : 1);
 }
 
 } // namespace
@@ -276,7 +273,7 @@ void BrelvonOptionsDialog::resetDevice(int index)
             if (auto* user = findChild<QRadioButton*>(QLatin1String(device.userButton)))
                 user->setChecked(!extracted);
         } else if (auto* check = qobject_cast<QCheckBox*>(widget)) {
-            check->setChecked(atoiOf(text) != 0);
+            check->setChecked(leadingInt(text) != 0);
         } else if (auto* group = qobject_cast<QGroupBox*>(widget)) {
             // The reset only asks that the element exists: the limit is on.
             group->setChecked(true);
@@ -336,7 +333,7 @@ void BrelvonOptionsDialog::runHelp()
 void BrelvonOptionsDialog::tabWidgetModelExtraction_tabChanged()
 {
     const QString topic = helpTopic();
-    m_ui->helpButton->setVisible(!topic.isEmpty() && atoiOf(topic) >= 0);
+    m_ui->helpButton->setVisible(!topic.isEmpty() && leadingInt(topic) >= 0);
 }
 
 void BrelvonOptionsDialog::tabWidgetMain_tabChanged()

@@ -61,30 +61,3 @@ inline void setStringResult(UserFunctionInterface* call, const QStringList& text
 }
 
 } // namespace dialogcommon
-
-namespace dialogcommon {
-
-// The whole number at the start of text, as atoi reads it (blanks, a sign,
-// digits; "" or no digits is 0), saturated at the int range.
-inline int atoiOf(const QString& text)
-{
-    int i = 0;
-    const int n = text.size();
-    while (i < n && text.at(i).isSpace())
-        ++i;
-    bool negative = false;
-    if (i < n && (text.at(i) == QLatin1Char('-') || text.at(i) == QLatin1Char('+')))
-        negative = text.at(i++) == QLatin1Char('-');
-    long long value = 0;
-    for (; i < n && text.at(i) >= QLatin1Char('0') && text.at(i) <= QLatin1Char('9'); ++i) {
-        value = value * 10 + (text.at(i).unicode() - '0');
-        if (value > 2147483648LL)
-            value = 2147483648LL;
-    }
-    if (negative)
-        value = -value;
-    return static_cast<int>(value < -2147483647LL - 1 ? -2147483647LL - 1
-                                                      : value > 2147483647LL ? 2147483647LL : value);
-}
-
-} // namespace dialogcommon

@@ -215,7 +215,7 @@ void EditBrelvonFilter::loadArguments(UserFunctionInterface* call)
                 methods->setCurrentIndex(i);
     }
     if (count > 21)
-        setPrecision(clampedPrecision(dialogcommon::atoiOf(m_args.at(21))));
+        setPrecision(clampedPrecision(dialogcommon::leadingInt(m_args.at(21))));
 }
 
 bool EditBrelvonFilter::isFirstOrder() const

@@ -44,7 +44,7 @@ enum LimitElement {
 
 int clampedCount(const QString& text)
 {
-    const int n = dialogcommon::atoiOf(text);
+    const int n = dialogcommon::leadingInt(text);
     return n < 0 ? 0 : n > kInputsCap ? kInputsCap : n;
 }
 
@@ -114,7 +114,7 @@ void EditBRELVONGateDialog::loadArguments(UserFunctionInterface* call)
     auto bound = [call](const VT_FunctionDef* widget) {
         const QStringList arg = dialogcommon::stringArg(call, widget->argIndex());
         const int i = widget->inElementIndex();
-        return i >= 0 && i < arg.size() ? dialogcommon::atoiOf(arg.at(i)) : -1;
+        return i >= 0 && i < arg.size() ? dialogcommon::leadingInt(arg.at(i)) : -1;
     };
     int type = bound(m_ui->gateTypeGroup);
     int inputs = bound(m_ui->numberOfLogicInputsCombo);
@@ -206,7 +206,7 @@ void EditBRELVONGateDialog::gateTypeGroup_clicked(int type)
     if (type < m_descriptions.size())
         m_ui->labelDescription->setText(m_descriptions.at(type));
     const QString topic = helpTopic(type);
-    m_ui->helpButton->setVisible(!topic.isEmpty() && dialogcommon::atoiOf(topic) >= 0);
+    m_ui->helpButton->setVisible(!topic.isEmpty() && dialogcommon::leadingInt(topic) >= 0);
 
     invertedCombo->setCurrentIndex(counts.inverted);
     inputsCombo->setEnabled(inputsCombo->count() >= 2);

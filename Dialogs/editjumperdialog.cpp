@@ -68,7 +68,7 @@ void EditJumperDialog::loadArguments(UserFunctionInterface* call)
     const QStringList texts = dialogcommon::stringArg(call, 1);
     if (!texts.isEmpty() && !texts.at(0).isEmpty())
         setWindowTitle(texts.at(0));
-    m_helpContext = texts.size() > 1 ? dialogcommon::atoiOf(texts.at(1)) : -1;
+    m_helpContext = texts.size() > 1 ? dialogcommon::leadingInt(texts.at(1)) : -1;
     if (m_helpContext < 0)
         m_ui->helpButton->hide();
 }

@@ -69,21 +69,7 @@ const int kThresholdElement = 5;
 const int kCapacitorTopLevel = 3;
 const int kInductorTopLevel = 1;
 
-// The leading whole number of a text, as C's atoi reads it ("1.9" is 1,
-// "abc" is 0), clamped to int.
-int leadingInt(const QString& text)
-{
-    const QString t = text.trimmed();
-    int i = 0;
-    bool negative = false;
-    if (i < t.size() && (t.at(i) == QLatin1Char('+') || t.at(i) == QLatin1Char('-')))
-        negative = t.at(i++) == QLatin1Char('-');
-    qint64 value = 0;
-    for (; i < t.size() && t.at(i).isDigit() && t.at(i).unicode() < 128; ++i)
-        value = qMin<qint64>(value * 10 + (t.at(i).unicode() - '0'), qint64(1) << 31);
-    value = negative ? -value : value;
-    return int(qBound<qint64>(std::numeric_limits<int>::min(), value, std::numeric_limits<int>::max()));
-}
+using dialogcommon::leadingInt;
 
 bool holdsBraces(const QString& text)
 {

@@ -76,10 +76,7 @@ const KindInfo kKinds[] = {
     {"bjt", Kind::Bjt, "ModelExtractionBjtDialog"},
 };
 
-int atoiOf(const QString& text)
-{
-    return parameterpages::atoiText(text);
-}
+using dialogcommon::leadingInt;
 
 QString withoutQuotes(QString text)
 {
@@ -270,12 +267,12 @@ void ModelExtractionDialog::load(UserFunctionInterface* call)
 
     // A diode configuration remembers its own count or mismatch.
     if (isDiodeLike() && values.size() > kExtraElement && !values.at(3).isEmpty()) {
-        switch (atoiOf(values.at(3))) {
+        switch (leadingInt(values.at(3))) {
         case 1:
-            m_parallelCount = atoiOf(values.at(kExtraElement));
+            m_parallelCount = leadingInt(values.at(kExtraElement));
             break;
         case 2:
-            m_seriesCount = atoiOf(values.at(kExtraElement));
+            m_seriesCount = leadingInt(values.at(kExtraElement));
             break;
         case 3:
             m_mismatchVolts = sp_ConvertEngToReal(values.at(kExtraElement), nullptr);
@@ -336,7 +333,7 @@ void ModelExtractionDialog::showEvent(QShowEvent* event)
         }
     }
     if (m_args[ArgValues].size() >= 4 && !m_args[ArgInfo].isEmpty()) {
-        const int configuration = atoiOf(m_args[ArgValues].at(3));
+        const int configuration = leadingInt(m_args[ArgValues].at(3));
         if (isDiodeLike())
             radioGroupConfiguration_Clicked_Diode(configuration);
         else if (m_kind == Kind::Zener)

@@ -159,7 +159,7 @@ TwoFileSelectionDialog::TwoFileSelectionDialog(UserFunctionInterface* call)
             checked = qstrcmp(buffer, "1") == 0;
     }
     if (values.size() > 3)
-        checked = std::atoi(Tocs(values.at(3))) != 0;
+        checked = dialogcommon::leadingInt(values.at(3)) != 0;
     m_ui->checkbox->setChecked(checked);
 
     m_documentKinds = QStringList{

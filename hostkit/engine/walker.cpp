@@ -43,9 +43,9 @@ void load(QWidget* w, const char* e)
     else if (auto* l = qobject_cast<Label*>(w))
         l->setText(text);
     else if (auto* cb = qobject_cast<CheckBox*>(w))
-        cb->setChecked(std::atoi(e) != 0);
+        cb->setChecked(std::strtoll(e, nullptr, 10) != 0);
     else if (auto* gb = qobject_cast<GroupBox*>(w))
-        gb->setChecked(std::atoi(e) != 0);
+        gb->setChecked(std::strtoll(e, nullptr, 10) != 0);
     else if (auto* rg = qobject_cast<RadioGroup*>(w))
         rg->setText(text);
     else if (auto* combo = qobject_cast<ComboBox*>(w))

@@ -18,6 +18,8 @@
 #include <QSettings>
 #include <QStandardPaths>
 
+#include <algorithm>
+#include <climits>
 #include <cstdlib>
 #include <cstring>
 
@@ -155,7 +157,10 @@ YString sp_GetStringOption(const char* name, bool* found)
 
 int sp_GetIntOption(const char* name)
 {
-    return std::atoi(optionText(name, nullptr).constData());
+    // atoi's reading, but an option edited by hand to a huge number gives
+    // the nearest int rather than whatever the overflow leaves.
+    const long long v = std::strtoll(optionText(name, nullptr).constData(), nullptr, 10);
+    return static_cast<int>(std::clamp<long long>(v, INT_MIN, INT_MAX));
 }
 
 void sp_WriteOption(const YString& name, const YString& value)
