@@ -4,7 +4,8 @@
 Every text becomes 40% longer, with accented letters and brackets, so that
 an untranslated text (plain ASCII) or a clipped one (a missing bracket)
 shows at a glance. Placeholders (%1, %n), tags, entities and the & of a
-mnemonic keep their meaning.
+mnemonic keep their meaning. Qt's own standard button texts are added, so
+that a clipped Ok or Cancel shows as well.
 
     scripts/pseudotranslate.py translations/vtdialogs.ts translations/vtdialogs_xx.ts
 """
@@ -19,6 +20,17 @@ ACCENTS = str.maketrans(
 # Runs that must pass through untouched.
 KEEP = re.compile(r"(<head>.*?</head>|%L?\d+|%n|<[^>]*>|&[a-zA-Z#0-9]+;|&&|\\n|\n)", re.S)
 PAD = "~"
+
+# Qt's own texts that the forms show: the standard buttons of button boxes
+# and message boxes, by the context Qt looks them up in. Without them a
+# clipped Ok or Cancel would not show.
+QT_TEXTS = {
+    "QPlatformTheme": ["OK", "Save", "Save All", "Open", "&Yes", "Yes to &All", "&No", "N&o to All",
+                       "Abort", "Retry", "Ignore", "Close", "Cancel", "Discard", "Help", "Apply",
+                       "Reset", "Restore Defaults"],
+    "QGnomeTheme": ["&OK", "&Save", "&Cancel", "&Close", "Close without Saving"],
+    "QMessageBox": ["Show Details...", "Hide Details..."],
+}
 
 
 # Kept runs that end a line as shown.
@@ -81,9 +93,23 @@ def main(src: str, dst: str) -> None:
             ET.SubElement(translation, "numerusform").text = pseudo(source)
         else:
             translation.text = pseudo(source)
+    for name, sources in QT_TEXTS.items():
+        context = root.find(f"context[name='{name}']")
+        if context is None:
+            context = ET.SubElement(root, "context")
+            ET.SubElement(context, "name").text = name
+        for source in sources:
+            message = ET.SubElement(context, "message")
+            ET.SubElement(message, "source").text = source
+            ET.SubElement(message, "translation").text = pseudo(source)
+        # Laid out as lupdate lays out its own contexts.
+        ET.indent(context, space="    ")
+        context.tail = "\n"
+    root[-1].tail = "\n"
     with open(dst, "wb") as f:
         f.write(b'<?xml version="1.0" encoding="utf-8"?>\n<!DOCTYPE TS>\n')
         tree.write(f, encoding="utf-8", xml_declaration=False)
+        f.write(b"\n")
 
 
 if __name__ == "__main__":

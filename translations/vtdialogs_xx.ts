@@ -3956,4 +3956,113 @@ including symbol</source>
         <translation>[Çlíçk át léášt óñé póíñt óñ thé çúrvé.~~~~~~~~~~~~~]</translation>
     </message>
 </context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>[ÓK~]</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>[Šávé~]</translation>
+    </message>
+    <message>
+        <source>Save All</source>
+        <translation>[Šávé Áll~]</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>[Ópéñ~]</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>[&amp;Ýéš~]</translation>
+    </message>
+    <message>
+        <source>Yes to &amp;All</source>
+        <translation>[Ýéš tó &amp;Áll~~]</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>[&amp;Ñó~]</translation>
+    </message>
+    <message>
+        <source>N&amp;o to All</source>
+        <translation>[Ñ&amp;ó tó Áll~~]</translation>
+    </message>
+    <message>
+        <source>Abort</source>
+        <translation>[Ábórt~]</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>[Rétrý~]</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>[Ígñóré~]</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>[Çlóšé~]</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>[Çáñçél~]</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>[Díšçárd~]</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>[Hélp~]</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>[Ápplý~]</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>[Réšét~]</translation>
+    </message>
+    <message>
+        <source>Restore Defaults</source>
+        <translation>[Réštóré Défáúltš~~~~]</translation>
+    </message>
+</context>
+<context>
+    <name>QGnomeTheme</name>
+    <message>
+        <source>&amp;OK</source>
+        <translation>[&amp;ÓK~]</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>[&amp;Šávé~]</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>[&amp;Çáñçél~]</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>[&amp;Çlóšé~]</translation>
+    </message>
+    <message>
+        <source>Close without Saving</source>
+        <translation>[Çlóšé wíthóút Šávíñg~~~~~~]</translation>
+    </message>
+</context>
+<context>
+    <name>QMessageBox</name>
+    <message>
+        <source>Show Details...</source>
+        <translation>[Šhów Détáílš...~~~~]</translation>
+    </message>
+    <message>
+        <source>Hide Details...</source>
+        <translation>[Hídé Détáílš...~~~~]</translation>
+    </message>
+</context>
 </TS>
