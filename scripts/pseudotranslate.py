@@ -37,6 +37,14 @@ QT_TEXTS = {
 BREAK = re.compile(r"\n|<br\s*/?>|</p>", re.I)
 
 
+def padding(count: int) -> str:
+    """count pad letters as words of a few letters: a translation is longer
+    by more words, not by one long one, and a wrapping label must still be
+    able to wrap it."""
+    words = [PAD * 6] * (count // 6) + ([PAD * (count % 6)] if count % 6 else [])
+    return " ".join(words)
+
+
 def grow(run: str, tail: str) -> str:
     """The run with tail put after its last visible letter."""
     cut = len(run.rstrip())
@@ -62,13 +70,13 @@ def pseudo(text: str) -> str:
                 letters, last = letters + len(part), i
         elif BREAK.fullmatch(part):
             if last is not None and letters:
-                out[last] = grow(out[last], PAD * max(1, round(letters * 0.4)))
+                out[last] = grow(out[last], padding(max(1, round(letters * 0.4))))
                 letters = 0
             continue
         elif not part.startswith("<"):  # a placeholder, an entity: shown
             last = i
         end = last
-    pad = PAD * max(1, round(letters * 0.4) - 2) if letters else ""
+    pad = padding(max(1, round(letters * 0.4) - 2)) if letters else ""
     out[end] = grow(out[end], pad + "]")
     first = shown[0]
     lead = len(out[first]) - len(out[first].lstrip())
