@@ -86,7 +86,7 @@ void TestTranslations::standardButtons()
                         QMessageBox::StandardButtons(button));
         shown = box.button(QMessageBox::StandardButton(button))->text();
     } else {
-        QDialogButtonBox box(QDialogButtonBox::StandardButtons(button));
+        QDialogButtonBox box{QDialogButtonBox::StandardButtons(button)};
         shown = box.button(QDialogButtonBox::StandardButton(button))->text();
     }
     removeTranslations();
