@@ -107,20 +107,23 @@ void DialogDesigner::onTreeContextMenu(const QPoint& pos)
 
     using Make = std::function<DialogItem*()>;
     QList<QPair<QAction*, Make>> choices;
-    auto offer = [&](const QString& text, Make make) {
-        choices.append({menu.addAction(text), std::move(make)});
+    // Named so that answer scripts pick an action in any language.
+    auto offer = [&](const char* name, const QString& text, Make make) {
+        QAction* action = menu.addAction(text);
+        action->setObjectName(QLatin1String(name));
+        choices.append({action, std::move(make)});
     };
     const bool container = at && (at->type() == GroupItemType || at->type() == TabItemType);
     if (!at || container) {
-        offer(tr("Add Group"), [this] { return new GroupItem(tr("Group"), this); });
-        offer(tr("Add Radio Button"), [this] { return new RadioButtonItem(tr("Radio"), this); });
+        offer("actionAddGroup", tr("Add Group"), [this] { return new GroupItem(tr("Group"), this); });
+        offer("actionAddRadioButton", tr("Add Radio Button"), [this] { return new RadioButtonItem(tr("Radio"), this); });
         // A tab stands only at the top, so only the top offers one.
         if (!at)
-            offer(tr("Add Tab"), [this] { return new TabItem(tr("Tab"), this); });
-        offer(tr("Add Spin Box"),
+            offer("actionAddTab", tr("Add Tab"), [this] { return new TabItem(tr("Tab"), this); });
+        offer("actionAddSpinBox", tr("Add Spin Box"),
               [this] { return new SpinBoxItem(tr("SpinBox"), QStringLiteral("V"), this); });
-        offer(tr("Add Check Box"), [this] { return new CheckBoxItem(tr("CheckBox"), this); });
-        offer(tr("Add Spacer"), [this] { return new VerticalSpacerItem(this); });
+        offer("actionAddCheckBox", tr("Add Check Box"), [this] { return new CheckBoxItem(tr("CheckBox"), this); });
+        offer("actionAddSpacer", tr("Add Spacer"), [this] { return new VerticalSpacerItem(this); });
     }
     if (choices.isEmpty())
         return;

@@ -4,7 +4,8 @@
 Every text becomes 40% longer, with accented letters and brackets, so that
 an untranslated text (plain ASCII) or a clipped one (a missing bracket)
 shows at a glance. Placeholders (%1, %n), tags, entities and the & of a
-mnemonic keep their meaning.
+mnemonic keep their meaning. Qt's own standard button texts are added, so
+that a clipped Ok or Cancel shows as well.
 
     scripts/pseudotranslate.py translations/vtdialogs.ts translations/vtdialogs_xx.ts
 """
@@ -20,9 +21,28 @@ ACCENTS = str.maketrans(
 KEEP = re.compile(r"(<head>.*?</head>|%L?\d+|%n|<[^>]*>|&[a-zA-Z#0-9]+;|&&|\\n|\n)", re.S)
 PAD = "~"
 
+# Qt's own texts that the forms show: the standard buttons of button boxes
+# and message boxes, by the context Qt looks them up in. Without them a
+# clipped Ok or Cancel would not show.
+QT_TEXTS = {
+    "QPlatformTheme": ["OK", "Save", "Save All", "Open", "&Yes", "Yes to &All", "&No", "N&o to All",
+                       "Abort", "Retry", "Ignore", "Close", "Cancel", "Discard", "Help", "Apply",
+                       "Reset", "Restore Defaults"],
+    "QGnomeTheme": ["&OK", "&Save", "&Cancel", "&Close", "Close without Saving"],
+    "QMessageBox": ["Show Details...", "Hide Details..."],
+}
+
 
 # Kept runs that end a line as shown.
 BREAK = re.compile(r"\n|<br\s*/?>|</p>", re.I)
+
+
+def padding(count: int) -> str:
+    """count pad letters as words of a few letters: a translation is longer
+    by more words, not by one long one, and a wrapping label must still be
+    able to wrap it."""
+    words = [PAD * 6] * (count // 6) + ([PAD * (count % 6)] if count % 6 else [])
+    return " ".join(words)
 
 
 def grow(run: str, tail: str) -> str:
@@ -50,13 +70,13 @@ def pseudo(text: str) -> str:
                 letters, last = letters + len(part), i
         elif BREAK.fullmatch(part):
             if last is not None and letters:
-                out[last] = grow(out[last], PAD * max(1, round(letters * 0.4)))
+                out[last] = grow(out[last], padding(max(1, round(letters * 0.4))))
                 letters = 0
             continue
         elif not part.startswith("<"):  # a placeholder, an entity: shown
             last = i
         end = last
-    pad = PAD * max(1, round(letters * 0.4) - 2) if letters else ""
+    pad = padding(max(1, round(letters * 0.4) - 2)) if letters else ""
     out[end] = grow(out[end], pad + "]")
     first = shown[0]
     lead = len(out[first]) - len(out[first].lstrip())
@@ -81,9 +101,23 @@ def main(src: str, dst: str) -> None:
             ET.SubElement(translation, "numerusform").text = pseudo(source)
         else:
             translation.text = pseudo(source)
+    for name, sources in QT_TEXTS.items():
+        context = root.find(f"context[name='{name}']")
+        if context is None:
+            context = ET.SubElement(root, "context")
+            ET.SubElement(context, "name").text = name
+        for source in sources:
+            message = ET.SubElement(context, "message")
+            ET.SubElement(message, "source").text = source
+            ET.SubElement(message, "translation").text = pseudo(source)
+        # Laid out as lupdate lays out its own contexts.
+        ET.indent(context, space="    ")
+        context.tail = "\n"
+    root[-1].tail = "\n"
     with open(dst, "wb") as f:
         f.write(b'<?xml version="1.0" encoding="utf-8"?>\n<!DOCTYPE TS>\n')
         tree.write(f, encoding="utf-8", xml_declaration=False)
+        f.write(b"\n")
 
 
 if __name__ == "__main__":

@@ -388,10 +388,6 @@ converge, and does not significantly affect the simulation time.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>1e+012</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>V/s</source>
         <translation type="unfinished"></translation>
     </message>
@@ -702,46 +698,6 @@ one of the other two.</source>
     </message>
     <message>
         <source>Device Name:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>3</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>4</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>5</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>6</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>7</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>8</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>9</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>10</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1138,23 +1094,11 @@ for example one taken from a data sheet.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>20</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Maximum limit</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>40</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Minimum limit</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>-40</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1180,18 +1124,6 @@ for example one taken from a data sheet.</source>
     <message>
         <source>Phase
 - 180 degrees</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>45</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>180</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>-180</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1302,10 +1234,6 @@ The model used in the simulation is selected using the &quot;Model&quot; buttons
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Gain</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1394,10 +1322,6 @@ The model used in the simulation is selected using the &quot;Model&quot; buttons
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>10</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The precision of the model parameters is set with this value.&lt;br /&gt;Permissable values are from 3 to 16 significant digits.&lt;br/&gt;The Z-Coefficients are sensitive to this precision value.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1406,19 +1330,11 @@ The model used in the simulation is selected using the &quot;Model&quot; buttons
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>6</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The displayed precision of the various coefficients is set with this parameter.&lt;br /&gt;The values used in calculations usually have higher precision than the display precision.&lt;br /&gt;Display precision has no impact on the model behavior.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Annotation precision</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>4</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1517,10 +1433,6 @@ Press &quot;Calculate Now&quot; to calculate and save, &quot;Cancel&quot; to ret
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>-1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Level 0</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1557,19 +1469,11 @@ Press &quot;Calculate Now&quot; to calculate and save, &quot;Cancel&quot; to ret
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>2.5</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>V</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Hysteresis</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1585,19 +1489,11 @@ Press &quot;Calculate Now&quot; to calculate and save, &quot;Cancel&quot; to ret
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>15n</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>s</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Falling-edge delay</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>10n</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1621,15 +1517,7 @@ Press &quot;Calculate Now&quot; to calculate and save, &quot;Cancel&quot; to ret
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>10Meg</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>I3</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>2</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1641,15 +1529,7 @@ Press &quot;Calculate Now&quot; to calculate and save, &quot;Cancel&quot; to ret
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>10</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>RON2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>500m</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1665,15 +1545,7 @@ Press &quot;Calculate Now&quot; to calculate and save, &quot;Cancel&quot; to ret
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>3</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Lower switch PWL model</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>100m</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1827,10 +1699,6 @@ Press &quot;Calculate Now&quot; to calculate and save, &quot;Cancel&quot; to ret
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>1u</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>F</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1847,10 +1715,6 @@ Press &quot;Calculate Now&quot; to calculate and save, &quot;Cancel&quot; to ret
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>100Meg</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Ohms</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1859,15 +1723,7 @@ Press &quot;Calculate Now&quot; to calculate and save, &quot;Cancel&quot; to ret
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>10m</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Series inductance (ESL)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1n</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1876,10 +1732,6 @@ Press &quot;Calculate Now&quot; to calculate and save, &quot;Cancel&quot; to ret
     </message>
     <message>
         <source>ESL Shunt resistance</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1k</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1895,10 +1747,6 @@ Press &quot;Calculate Now&quot; to calculate and save, &quot;Cancel&quot; to ret
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>0</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>V</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1908,10 +1756,6 @@ Press &quot;Calculate Now&quot; to calculate and save, &quot;Cancel&quot; to ret
     </message>
     <message>
         <source>Quantity</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3458,19 +3302,11 @@ including symbol</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>10G</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Hz</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Shunt Resistance</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1k</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3548,14 +3384,6 @@ including symbol</source>
     </message>
     <message>
         <source>message</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>2</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>Initial place preference</source>
-        <translation>[Íñítíál pláçé préféréñçé~~~~~~~~]</translation>
+        <translation>[Íñítíál pláçé préféréñçé~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Extracted model</source>
@@ -31,13 +31,13 @@
         <source>Automatically copy extracted 
 
 parameters to User-defined parameters</source>
-        <translation>[Áútómátíçállý çópý éxtráçtéd~~~~~~~~~~~~ 
+        <translation>[Áútómátíçállý çópý éxtráçtéd~~~~~~ ~~~~~~ 
 
-párámétérš tó Úšér-défíñéd párámétérš~~~~~~~~~~~~~]</translation>
+párámétérš tó Úšér-défíñéd párámétérš~~~~~~ ~~~~~~ ~]</translation>
     </message>
     <message>
         <source>Default model extraction test conditions</source>
-        <translation>[Défáúlt módél éxtráçtíóñ téšt çóñdítíóñš~~~~~~~~~~~~~~]</translation>
+        <translation>[Défáúlt módél éxtráçtíóñ téšt çóñdítíóñš~~~~~~ ~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Drain current</source>
@@ -49,7 +49,7 @@ párámétérš tó Úšér-défíñéd párámétérš~~~~~~~~~~~~~]</translati
     </message>
     <message>
         <source>Drain to source voltage</source>
-        <translation>[Dráíñ tó šóúrçé vóltágé~~~~~~~]</translation>
+        <translation>[Dráíñ tó šóúrçé vóltágé~~~~~~ ~]</translation>
     </message>
     <message>
         <source>V</source>
@@ -73,15 +73,15 @@ párámétérš tó Úšér-défíñéd párámétérš~~~~~~~~~~~~~]</translati
     </message>
     <message>
         <source>Number of body diode segments</source>
-        <translation>[Ñúmbér óf bódý díódé šégméñtš~~~~~~~~~~]</translation>
+        <translation>[Ñúmbér óf bódý díódé šégméñtš~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>Limit maximum off resistance</source>
-        <translation>[Límít máxímúm óff réšíštáñçé~~~~~~~~~]</translation>
+        <translation>[Límít máxímúm óff réšíštáñçé~~~~~~ ~~~]</translation>
     </message>
     <message>
         <source>Maximum off resistance</source>
-        <translation>[Máxímúm óff réšíštáñçé~~~~~~~]</translation>
+        <translation>[Máxímúm óff réšíštáñçé~~~~~~ ~]</translation>
     </message>
     <message>
         <source>Ω</source>
@@ -89,7 +89,7 @@ párámétérš tó Úšér-défíñéd párámétérš~~~~~~~~~~~~~]</translati
     </message>
     <message>
         <source>Reset form to default values</source>
-        <translation>[Réšét fórm tó défáúlt válúéš~~~~~~~~~]</translation>
+        <translation>[Réšét fórm tó défáúlt válúéš~~~~~~ ~~~]</translation>
     </message>
     <message>
         <source>Show advanced options</source>
@@ -102,20 +102,20 @@ párámétérš tó Úšér-défíñéd párámétérš~~~~~~~~~~~~~]</translati
     <message>
         <source>The extraction draws a straight line between two points on the
 drain current vs. gate drive voltage curves, set here as ratios of the peak drain current.</source>
-        <translation>[Thé éxtráçtíóñ dráwš á štráíght líñé bétwééñ twó póíñtš óñ thé~~~~~~~~~~~~~~~~~~~~~~~~~
-dráíñ çúrréñt vš. gáté drívé vóltágé çúrvéš, šét héré áš rátíóš óf thé péák dráíñ çúrréñt.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thé éxtráçtíóñ dráwš á štráíght líñé bétwééñ twó póíñtš óñ thé~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~
+dráíñ çúrréñt vš. gáté drívé vóltágé çúrvéš, šét héré áš rátíóš óf thé péák dráíñ çúrréñt.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>Peak curve fit point expressed as the ratio of peak drain current</source>
-        <translation>[Péák çúrvé fít póíñt éxpréššéd áš thé rátíó óf péák dráíñ çúrréñt~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Péák çúrvé fít póíñt éxpréššéd áš thé rátíó óf péák dráíñ çúrréñt~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~]</translation>
     </message>
     <message>
         <source>Minimum curve fit point expressed as the ratio of peak drain current</source>
-        <translation>[Míñímúm çúrvé fít póíñt éxpréššéd áš thé rátíó óf péák dráíñ çúrréñt~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Míñímúm çúrvé fít póíñt éxpréššéd áš thé rátíó óf péák dráíñ çúrréñt~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~]</translation>
     </message>
     <message>
         <source>Maximum instantaneous power dissipation</source>
-        <translation>[Máxímúm íñštáñtáñéóúš pówér díššípátíóñ~~~~~~~~~~~~~~]</translation>
+        <translation>[Máxímúm íñštáñtáñéóúš pówér díššípátíóñ~~~~~~ ~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>W</source>
@@ -127,7 +127,7 @@ dráíñ çúrréñt vš. gáté drívé vóltágé çúrvéš, šét héré á�
     </message>
     <message>
         <source>Output parameter debug statements to the deck file</source>
-        <translation>[Óútpút párámétér débúg štátéméñtš tó thé déçk fílé~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Óútpút párámétér débúg štátéméñtš tó thé déçk fílé~~~~~~ ~~~~~~ ~~~~~~]</translation>
     </message>
     <message>
         <source>Diode</source>
@@ -143,7 +143,7 @@ dráíñ çúrréñt vš. gáté drívé vóltágé çúrvéš, šét héré á�
     </message>
     <message>
         <source>Number of diode segments</source>
-        <translation>[Ñúmbér óf díódé šégméñtš~~~~~~~~]</translation>
+        <translation>[Ñúmbér óf díódé šégméñtš~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>IGBT</source>
@@ -155,25 +155,25 @@ dráíñ çúrréñt vš. gáté drívé vóltágé çúrvéš, šét héré á�
     </message>
     <message>
         <source>Collector to emitter voltage</source>
-        <translation>[Çólléçtór tó émíttér vóltágé~~~~~~~~~]</translation>
+        <translation>[Çólléçtór tó émíttér vóltágé~~~~~~ ~~~]</translation>
     </message>
     <message>
         <source>Number of anti-parallel diode segments</source>
-        <translation>[Ñúmbér óf áñtí-párállél díódé šégméñtš~~~~~~~~~~~~~]</translation>
+        <translation>[Ñúmbér óf áñtí-párállél díódé šégméñtš~~~~~~ ~~~~~~ ~]</translation>
     </message>
     <message>
         <source>The extraction draws a straight line between two points on the
 collector current vs. gate drive voltage curves, set here as ratios of the peak collector current.</source>
-        <translation>[Thé éxtráçtíóñ dráwš á štráíght líñé bétwééñ twó póíñtš óñ thé~~~~~~~~~~~~~~~~~~~~~~~~~
-çólléçtór çúrréñt vš. gáté drívé vóltágé çúrvéš, šét héré áš rátíóš óf thé péák çólléçtór çúrréñt.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thé éxtráçtíóñ dráwš á štráíght líñé bétwééñ twó póíñtš óñ thé~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~
+çólléçtór çúrréñt vš. gáté drívé vóltágé çúrvéš, šét héré áš rátíóš óf thé péák çólléçtór çúrréñt.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~]</translation>
     </message>
     <message>
         <source>Peak curve fit point expressed as the ratio of peak collector current</source>
-        <translation>[Péák çúrvé fít póíñt éxpréššéd áš thé rátíó óf péák çólléçtór çúrréñt~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Péák çúrvé fít póíñt éxpréššéd áš thé rátíó óf péák çólléçtór çúrréñt~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Minimum curve fit point expressed as the ratio of peak collector current</source>
-        <translation>[Míñímúm çúrvé fít póíñt éxpréššéd áš thé rátíó óf péák çólléçtór çúrréñt~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Míñímúm çúrvé fít póíñt éxpréššéd áš thé rátíó óf péák çólléçtór çúrréñt~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~]</translation>
     </message>
     <message>
         <source>JFET</source>
@@ -181,7 +181,7 @@ collector current vs. gate drive voltage curves, set here as ratios of the peak 
     </message>
     <message>
         <source>Off-state gate drive voltage</source>
-        <translation>[Óff-štáté gáté drívé vóltágé~~~~~~~~~]</translation>
+        <translation>[Óff-štáté gáté drívé vóltágé~~~~~~ ~~~]</translation>
     </message>
     <message>
         <source>Zener</source>
@@ -215,21 +215,21 @@ collector current vs. gate drive voltage curves, set here as ratios of the peak 
         <source>Automatically copy translated
 
 parameters to User-defined parameters</source>
-        <translation>[Áútómátíçállý çópý tráñšlátéd~~~~~~~~~~~~
+        <translation>[Áútómátíçállý çópý tráñšlátéd~~~~~~ ~~~~~~
 
-párámétérš tó Úšér-défíñéd párámétérš~~~~~~~~~~~~~]</translation>
+párámétérš tó Úšér-défíñéd párámétérš~~~~~~ ~~~~~~ ~]</translation>
     </message>
     <message>
         <source>Default translation parameters</source>
-        <translation>[Défáúlt tráñšlátíóñ párámétérš~~~~~~~~~~]</translation>
+        <translation>[Défáúlt tráñšlátíóñ párámétérš~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>ASCII Model/Symbol Creation</source>
-        <translation>[ÁŠÇÍÍ Módél/Šýmból Çréátíóñ~~~~~~~~~]</translation>
+        <translation>[ÁŠÇÍÍ Módél/Šýmból Çréátíóñ~~~~~~ ~~~]</translation>
     </message>
     <message>
         <source>Symbol creation options</source>
-        <translation>[Šýmból çréátíóñ óptíóñš~~~~~~~]</translation>
+        <translation>[Šýmból çréátíóñ óptíóñš~~~~~~ ~]</translation>
     </message>
     <message>
         <source>Save symbol to:</source>
@@ -241,7 +241,7 @@ párámétérš tó Úšér-défíñéd párámétérš~~~~~~~~~~~~~]</translati
     </message>
     <message>
         <source>If selected, the symbol is output to a symbol library in the schematic directory.</source>
-        <translation>[Íf šéléçtéd, thé šýmból íš óútpút tó á šýmból líbrárý íñ thé šçhémátíç díréçtórý.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Íf šéléçtéd, thé šýmból íš óútpút tó á šýmból líbrárý íñ thé šçhémátíç díréçtórý.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~]</translation>
     </message>
     <message>
         <source>Global symbol library</source>
@@ -249,11 +249,11 @@ párámétérš tó Úšér-défíñéd párámétérš~~~~~~~~~~~~~]</translati
     </message>
     <message>
         <source>If selected, the symbol is output to the specified global symbol library.</source>
-        <translation>[Íf šéléçtéd, thé šýmból íš óútpút tó thé špéçífíéd glóbál šýmból líbrárý.~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Íf šéléçtéd, thé šýmból íš óútpút tó thé špéçífíéd glóbál šýmból líbrárý.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~]</translation>
     </message>
     <message>
         <source>Global symbol file name.</source>
-        <translation>[Glóbál šýmból fílé ñámé.~~~~~~~~]</translation>
+        <translation>[Glóbál šýmból fílé ñámé.~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Browse...</source>
@@ -265,27 +265,27 @@ párámétérš tó Úšér-défíñéd párámétérš~~~~~~~~~~~~~]</translati
     </message>
     <message>
         <source>Symbol category with a seimcolon delimiter to define sub categories.</source>
-        <translation>[Šýmból çátégórý wíth á šéímçólóñ délímítér tó défíñé šúb çátégóríéš.~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Šýmból çátégórý wíth á šéímçólóñ délímítér tó défíñé šúb çátégóríéš.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~]</translation>
     </message>
     <message>
         <source>Model creation options</source>
-        <translation>[Módél çréátíóñ óptíóñš~~~~~~~]</translation>
+        <translation>[Módél çréátíóñ óptíóñš~~~~~~ ~]</translation>
     </message>
     <message>
         <source>Do not check .INCLUDE files for .VAR statements</source>
-        <translation>[Dó ñót çhéçk .ÍÑÇLÚDÉ fíléš fór .VÁR štátéméñtš~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Dó ñót çhéçk .ÍÑÇLÚDÉ fíléš fór .VÁR štátéméñtš~~~~~~ ~~~~~~ ~~~~~]</translation>
     </message>
     <message>
         <source>Dangerous: with this checked, .INLCUDE files are not searched for .VAR statements, and a model that relies on them may be wrong. Only check this option if you REALLY know what you are doing.</source>
-        <translation>[Dáñgéróúš: wíth thíš çhéçkéd, .ÍÑLÇÚDÉ fíléš áré ñót šéárçhéd fór .VÁR štátéméñtš, áñd á módél thát rélíéš óñ thém máý bé wróñg. Óñlý çhéçk thíš óptíóñ íf ýóú RÉÁLLÝ kñów whát ýóú áré dóíñg.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Dáñgéróúš: wíth thíš çhéçkéd, .ÍÑLÇÚDÉ fíléš áré ñót šéárçhéd fór .VÁR štátéméñtš, áñd á módél thát rélíéš óñ thém máý bé wróñg. Óñlý çhéçk thíš óptíóñ íf ýóú RÉÁLLÝ kñów whát ýóú áré dóíñg.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Comment out all .GRAPH statements</source>
-        <translation>[Çómméñt óút áll .GRÁPH štátéméñtš~~~~~~~~~~~]</translation>
+        <translation>[Çómméñt óút áll .GRÁPH štátéméñtš~~~~~~ ~~~~~]</translation>
     </message>
     <message>
         <source>Comment out all .PRINT statements</source>
-        <translation>[Çómméñt óút áll .PRÍÑT štátéméñtš~~~~~~~~~~~]</translation>
+        <translation>[Çómméñt óút áll .PRÍÑT štátéméñtš~~~~~~ ~~~~~]</translation>
     </message>
     <message>
         <source>Ok</source>
@@ -330,9 +330,9 @@ párámétérš tó Úšér-défíñéd párámétérš~~~~~~~~~~~~~]</translati
         <source>Use these options when a run stops with "No convergence in transient analysis"
 or "Cannot find DC operating point". Try advanced iteration first: it has no
 disadvantages other than a slight loss of speed.</source>
-        <translation>[Úšé théšé óptíóñš whéñ á rúñ štópš wíth "Ñó çóñvérgéñçé íñ tráñšíéñt áñálýšíš"~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
-ór "Çáññót fíñd DÇ ópérátíñg póíñt". Trý ádváñçéd ítérátíóñ fíršt: ít háš ñó~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
-díšádváñtágéš óthér tháñ á šlíght lóšš óf špééd.~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Úšé théšé óptíóñš whéñ á rúñ štópš wíth "Ñó çóñvérgéñçé íñ tráñšíéñt áñálýšíš"~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~
+ór "Çáññót fíñd DÇ ópérátíñg póíñt". Trý ádváñçéd ítérátíóñ fíršt: ít háš ñó~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~
+díšádváñtágéš óthér tháñ á šlíght lóšš óf špééd.~~~~~~ ~~~~~~ ~~~~~]</translation>
     </message>
     <message>
         <source>Advanced iteration</source>
@@ -347,9 +347,9 @@ díšádváñtágéš óthér tháñ á šlíght lóšš óf špééd.~~~~~~~~~~
 slow a simulation down by 5 to 10%, but it can also speed it up. Not all types
 of device support it yet; you will be warned if your circuit holds one that
 does not.</source>
-        <translation>[Ádváñçéd ítérátíóñ ñéárlý álwáýš ímpróvéš çóñvérgéñçé áñd áççúráçý. Ít máý~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
-šlów á šímúlátíóñ dówñ bý 5 tó 10%, bút ít çáñ álšó špééd ít úp. Ñót áll týpéš~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
-óf dévíçé šúppórt ít ýét; ýóú wíll bé wárñéd íf ýóúr çírçúít hóldš óñé thát~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
+        <translation>[Ádváñçéd ítérátíóñ ñéárlý álwáýš ímpróvéš çóñvérgéñçé áñd áççúráçý. Ít máý~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~
+šlów á šímúlátíóñ dówñ bý 5 tó 10%, bút ít çáñ álšó špééd ít úp. Ñót áll týpéš~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~
+óf dévíçé šúppórt ít ýét; ýóú wíll bé wárñéd íf ýóúr çírçúít hóldš óñé thát~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~
 dóéš ñót.~~]</translation>
     </message>
     <message>
@@ -371,8 +371,8 @@ dóéš ñót.~~]</translation>
     <message>
         <source>The absolute current tolerance defaults to 1pA, which is sometimes too low. A
 value of up to 1nA often solves convergence problems.</source>
-        <translation>[Thé ábšólúté çúrréñt tóléráñçé défáúltš tó 1pÁ, whíçh íš šómétíméš tóó lów. Á~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
-válúé óf úp tó 1ñÁ óftéñ šólvéš çóñvérgéñçé próblémš.~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thé ábšólúté çúrréñt tóléráñçé défáúltš tó 1pÁ, whíçh íš šómétíméš tóó lów. Á~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~
+válúé óf úp tó 1ñÁ óftéñ šólvéš çóñvérgéñçé próblémš.~~~~~~ ~~~~~~ ~~~~~~ ~]</translation>
     </message>
     <message>
         <source>Time step</source>
@@ -389,20 +389,16 @@ válúé óf úp tó 1ñÁ óftéñ šólvéš çóñvérgéñçé próblémš.~
     <message>
         <source>A minimum time step of 1f or less can sometimes help transient analysis to
 converge, and does not significantly affect the simulation time.</source>
-        <translation>[Á míñímúm tímé štép óf 1f ór léšš çáñ šómétíméš hélp tráñšíéñt áñálýšíš tó~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
-çóñvérgé, áñd dóéš ñót šígñífíçáñtlý áfféçt thé šímúlátíóñ tímé.~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Á míñímúm tímé štép óf 1f ór léšš çáñ šómétíméš hélp tráñšíéñt áñálýšíš tó~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~
+çóñvérgé, áñd dóéš ñót šígñífíçáñtlý áfféçt thé šímúlátíóñ tímé.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~]</translation>
     </message>
     <message>
         <source>Slew rate for discontinuous sources</source>
-        <translation>[Šléw ráté fór díšçóñtíñúóúš šóúrçéš~~~~~~~~~~~~]</translation>
+        <translation>[Šléw ráté fór díšçóñtíñúóúš šóúrçéš~~~~~~ ~~~~~~]</translation>
     </message>
     <message>
         <source>Slew rate</source>
         <translation>[Šléw ráté~~]</translation>
-    </message>
-    <message>
-        <source>1e+012</source>
-        <translation>[1é+012~]</translation>
     </message>
     <message>
         <source>V/s</source>
@@ -416,9 +412,9 @@ converge, and does not significantly affect the simulation time.</source>
         <source>Applies to arbitrary sources with expressions of the form IF(expression,
 constant, constant), common in power controller models, and removes their
 discontinuity. Do not set it lower than 1E9.</source>
-        <translation>[Ápplíéš tó árbítrárý šóúrçéš wíth éxpréššíóñš óf thé fórm ÍF(éxpréššíóñ,~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
-çóñštáñt, çóñštáñt), çómmóñ íñ pówér çóñtróllér módélš, áñd rémóvéš théír~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
-díšçóñtíñúítý. Dó ñót šét ít lówér tháñ 1É9.~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Ápplíéš tó árbítrárý šóúrçéš wíth éxpréššíóñš óf thé fórm ÍF(éxpréššíóñ,~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~
+çóñštáñt, çóñštáñt), çómmóñ íñ pówér çóñtróllér módélš, áñd rémóvéš théír~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~
+díšçóñtíñúítý. Dó ñót šét ít lówér tháñ 1É9.~~~~~~ ~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>Shunt capacitance</source>
@@ -434,17 +430,17 @@ díšçóñtíñúítý. Dó ñót šét ít lówér tháñ 1É9.~~~~~~~~~~~~~~~
     </message>
     <message>
         <source>Apply shunt capacitance globally</source>
-        <translation>[Ápplý šhúñt çápáçítáñçé glóbállý~~~~~~~~~~~]</translation>
+        <translation>[Ápplý šhúñt çápáçítáñçé glóbállý~~~~~~ ~~~~~]</translation>
     </message>
     <message>
         <source>For transient analysis only: a small capacitance to ground from all top level
 nodes, that is nodes not in a subcircuit or hierarchical block. As little as
 1fF can improve convergence. Applying it globally puts it on all nodes; use
 that with care, as it can affect subcircuit models.</source>
-        <translation>[Fór tráñšíéñt áñálýšíš óñlý: á šmáll çápáçítáñçé tó gróúñd fróm áll tóp lévél~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
-ñódéš, thát íš ñódéš ñót íñ á šúbçírçúít ór híérárçhíçál blóçk. Áš líttlé áš~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
-1fF çáñ ímpróvé çóñvérgéñçé. Ápplýíñg ít glóbállý pútš ít óñ áll ñódéš; úšé~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
-thát wíth çáré, áš ít çáñ áfféçt šúbçírçúít módélš.~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Fór tráñšíéñt áñálýšíš óñlý: á šmáll çápáçítáñçé tó gróúñd fróm áll tóp lévél~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~
+ñódéš, thát íš ñódéš ñót íñ á šúbçírçúít ór híérárçhíçál blóçk. Áš líttlé áš~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~
+1fF çáñ ímpróvé çóñvérgéñçé. Ápplýíñg ít glóbállý pútš ít óñ áll ñódéš; úšé~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~
+thát wíth çáré, áš ít çáñ áfféçt šúbçírçúít módélš.~~~~~~ ~~~~~~ ~~~~~~]</translation>
     </message>
 </context>
 <context>
@@ -455,7 +451,7 @@ thát wíth çáré, áš ít çáñ áfféçt šúbçírçúít módélš.~~~~~
     </message>
     <message>
         <source>Reverse recovery specification</source>
-        <translation>[Révéršé réçóvérý špéçífíçátíóñ~~~~~~~~~~]</translation>
+        <translation>[Révéršé réçóvérý špéçífíçátíóñ~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>IF - Forward current</source>
@@ -463,7 +459,7 @@ thát wíth çáré, áš ít çáñ áfféçt šúbçírçúít módélš.~~~~~
     </message>
     <message>
         <source>IRM - Peak reverse current</source>
-        <translation>[ÍRM - Péák révéršé çúrréñt~~~~~~~~]</translation>
+        <translation>[ÍRM - Péák révéršé çúrréñt~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>dIf/dt</source>
@@ -477,9 +473,9 @@ thát wíth çáré, áš ít çáñ áfféçt šúbçírçúít módélš.~~~~~
         <source>Parameters define a soft recovery characteristic.
 Tr is the time to recover to 37% of the peak
 reverse current from the zero crossing</source>
-        <translation>[Párámétérš défíñé á šóft réçóvérý çháráçtéríštíç.~~~~~~~~~~~~~~~~~~~~
-Tr íš thé tímé tó réçóvér tó 37% óf thé péák~~~~~~~~~~~~~~~~~~
-révéršé çúrréñt fróm thé zéró çróššíñg~~~~~~~~~~~~~]</translation>
+        <translation>[Párámétérš défíñé á šóft réçóvérý çháráçtéríštíç.~~~~~~ ~~~~~~ ~~~~~~ ~~
+Tr íš thé tímé tó réçóvér tó 37% óf thé péák~~~~~~ ~~~~~~ ~~~~~~
+révéršé çúrréñt fróm thé zéró çróššíñg~~~~~~ ~~~~~~ ~]</translation>
     </message>
     <message>
         <source>DC Forward bias spec</source>
@@ -509,7 +505,7 @@ révéršé çúrréñt fróm thé zéró çróššíñg~~~~~~~~~~~~~]</translat
         <source>Cj0 - Capacitance 
 
 at zero bias</source>
-        <translation>[Çj0 - Çápáçítáñçé~~~~~~~ 
+        <translation>[Çj0 - Çápáçítáñçé~~~~~~ ~ 
 
 át zéró bíáš~~~]</translation>
     </message>
@@ -519,7 +515,7 @@ at zero bias</source>
     </message>
     <message>
         <source>Save to schematic symbol</source>
-        <translation>[Šávé tó šçhémátíç šýmból~~~~~~~~]</translation>
+        <translation>[Šávé tó šçhémátíç šýmból~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Save to model library</source>
@@ -578,7 +574,7 @@ at zero bias</source>
     </message>
     <message>
         <source>Vertical Style (limited)</source>
-        <translation>[Vértíçál Štýlé (límítéd)~~~~~~~~]</translation>
+        <translation>[Vértíçál Štýlé (límítéd)~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Version</source>
@@ -614,11 +610,11 @@ at zero bias</source>
     </message>
     <message>
         <source>Set company name as default</source>
-        <translation>[Šét çómpáñý ñámé áš défáúlt~~~~~~~~~]</translation>
+        <translation>[Šét çómpáñý ñámé áš défáúlt~~~~~~ ~~~]</translation>
     </message>
     <message>
         <source>Set logo file path as default</source>
-        <translation>[Šét lógó fílé páth áš défáúlt~~~~~~~~~~]</translation>
+        <translation>[Šét lógó fílé páth áš défáúlt~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>Set author as default</source>
@@ -641,14 +637,14 @@ at zero bias</source>
     </message>
     <message>
         <source>Image Files (*.png *.jpg *.bmp)</source>
-        <translation>[Ímágé Fíléš (*.pñg *.jpg *.bmp)~~~~~~~~~~]</translation>
+        <translation>[Ímágé Fíléš (*.pñg *.jpg *.bmp)~~~~~~ ~~~~]</translation>
     </message>
 </context>
 <context>
     <name>CreatePowerInductorModelDialog</name>
     <message>
         <source>Create Power Inductor Model</source>
-        <translation>[Çréáté Pówér Íñdúçtór Módél~~~~~~~~~]</translation>
+        <translation>[Çréáté Pówér Íñdúçtór Módél~~~~~~ ~~~]</translation>
     </message>
     <message>
         <source>Parameters</source>
@@ -679,8 +675,8 @@ condition</source>
     <message>
         <source>With an initial condition the inductor behaves like a current source of this value
 during the DC operating point calculation.</source>
-        <translation>[Wíth áñ íñítíál çóñdítíóñ thé íñdúçtór béhávéš líké á çúrréñt šóúrçé óf thíš válúé~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
-dúríñg thé DÇ ópérátíñg póíñt çálçúlátíóñ.~~~~~~~~~~~~~~~]</translation>
+        <translation>[Wíth áñ íñítíál çóñdítíóñ thé íñdúçtór béhávéš líké á çúrréñt šóúrçé óf thíš válúé~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~
+dúríñg thé DÇ ópérátíñg póíñt çálçúlátíóñ.~~~~~~ ~~~~~~ ~~~]</translation>
     </message>
     <message>
         <source>Enable</source>
@@ -712,10 +708,10 @@ polynomials to each segment, with a curve continuous in the second
 derivative and a second derivative of zero at the final end point.
 For badly formed segments it can fail with an error; then choose
 one of the other two.</source>
-        <translation>["Çúbíç šplíñé óptíóñ 1" úšúállý gívéš thé béšt réšúltš: ít fítš çúbíç~~~~~~~~~~~~~~~~~~~~~~~~~~~~
-pólýñómíálš tó éáçh šégméñt, wíth á çúrvé çóñtíñúóúš íñ thé šéçóñd~~~~~~~~~~~~~~~~~~~~~~~~~~
-dérívátívé áñd á šéçóñd dérívátívé óf zéró át thé fíñál éñd póíñt.~~~~~~~~~~~~~~~~~~~~~~~~~~
-Fór bádlý fórméd šégméñtš ít çáñ fáíl wíth áñ érrór; théñ çhóóšé~~~~~~~~~~~~~~~~~~~~~~~~~~
+        <translation>["Çúbíç šplíñé óptíóñ 1" úšúállý gívéš thé béšt réšúltš: ít fítš çúbíç~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~
+pólýñómíálš tó éáçh šégméñt, wíth á çúrvé çóñtíñúóúš íñ thé šéçóñd~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~
+dérívátívé áñd á šéçóñd dérívátívé óf zéró át thé fíñál éñd póíñt.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~
+Fór bádlý fórméd šégméñtš ít çáñ fáíl wíth áñ érrór; théñ çhóóšé~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~
 óñé óf thé óthér twó.~~~~~~]</translation>
     </message>
     <message>
@@ -724,7 +720,7 @@ Fór bádlý fórméd šégméñtš ít çáñ fáíl wíth áñ érrór; théñ
     </message>
     <message>
         <source>Save to schematic symbol</source>
-        <translation>[Šávé tó šçhémátíç šýmból~~~~~~~~]</translation>
+        <translation>[Šávé tó šçhémátíç šýmból~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Save to model library</source>
@@ -733,46 +729,6 @@ Fór bádlý fórméd šégméñtš ít çáñ fáíl wíth áñ érrór; théñ
     <message>
         <source>Device Name:</source>
         <translation>[Dévíçé Ñámé:~~~]</translation>
-    </message>
-    <message>
-        <source>1</source>
-        <translation>[1~]</translation>
-    </message>
-    <message>
-        <source>2</source>
-        <translation>[2~]</translation>
-    </message>
-    <message>
-        <source>3</source>
-        <translation>[3~]</translation>
-    </message>
-    <message>
-        <source>4</source>
-        <translation>[4~]</translation>
-    </message>
-    <message>
-        <source>5</source>
-        <translation>[5~]</translation>
-    </message>
-    <message>
-        <source>6</source>
-        <translation>[6~]</translation>
-    </message>
-    <message>
-        <source>7</source>
-        <translation>[7~]</translation>
-    </message>
-    <message>
-        <source>8</source>
-        <translation>[8~]</translation>
-    </message>
-    <message>
-        <source>9</source>
-        <translation>[9~]</translation>
-    </message>
-    <message>
-        <source>10</source>
-        <translation>[10~]</translation>
     </message>
     <message>
         <source>I</source>
@@ -789,8 +745,8 @@ Fór bádlý fórméd šégméñtš ít çáñ fáíl wíth áñ érrór; théñ
     <message>
         <source>Digitises a graph from an image file (JPEG, PNG or BMP),
 for example one taken from a data sheet.</source>
-        <translation>[Dígítíšéš á gráph fróm áñ ímágé fílé (JPÉG, PÑG ór BMP),~~~~~~~~~~~~~~~~~~~~~~
-fór éxámplé óñé tákéñ fróm á dátá šhéét.~~~~~~~~~~~~~~]</translation>
+        <translation>[Dígítíšéš á gráph fróm áñ ímágé fílé (JPÉG, PÑG ór BMP),~~~~~~ ~~~~~~ ~~~~~~ ~~~~
+fór éxámplé óñé tákéñ fróm á dátá šhéét.~~~~~~ ~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Swap I and L</source>
@@ -802,7 +758,7 @@ fór éxámplé óñé tákéñ fróm á dátá šhéét.~~~~~~~~~~~~~~]</transl
     </message>
     <message>
         <source>Loads ASCII data copied from a spreadsheet.</source>
-        <translation>[Lóádš ÁŠÇÍÍ dátá çópíéd fróm á špréádšhéét.~~~~~~~~~~~~~~~]</translation>
+        <translation>[Lóádš ÁŠÇÍÍ dátá çópíéd fróm á špréádšhéét.~~~~~~ ~~~~~~ ~~~]</translation>
     </message>
     <message>
         <source>Data Error</source>
@@ -810,7 +766,7 @@ fór éxámplé óñé tákéñ fróm á dátá šhéét.~~~~~~~~~~~~~~]</transl
     </message>
     <message>
         <source>There is a row with an empty cell in the data table. Cannot complete while this cell is empty.</source>
-        <translation>[Théré íš á rów wíth áñ émptý çéll íñ thé dátá táblé. Çáññót çómplété whílé thíš çéll íš émptý.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Théré íš á rów wíth áñ émptý çéll íñ thé dátá táblé. Çáññót çómplété whílé thíš çéll íš émptý.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~]</translation>
     </message>
 </context>
 <context>
@@ -896,7 +852,7 @@ fór éxámplé óñé tákéñ fróm á dátá šhéét.~~~~~~~~~~~~~~]</transl
     <name>EditBRELVONGateDialog</name>
     <message>
         <source>Edit BRELVON Advanced Digital Gate</source>
-        <translation>[Édít BRÉLVÓÑ Ádváñçéd Dígítál Gáté~~~~~~~~~~~~]</translation>
+        <translation>[Édít BRÉLVÓÑ Ádváñçéd Dígítál Gáté~~~~~~ ~~~~~~]</translation>
     </message>
     <message>
         <source>Title</source>
@@ -932,7 +888,7 @@ fór éxámplé óñé tákéñ fróm á dátá šhéét.~~~~~~~~~~~~~~]</transl
     </message>
     <message>
         <source># of Inverted Logic Inputs</source>
-        <translation>[# óf Íñvértéd Lógíç Íñpútš~~~~~~~~]</translation>
+        <translation>[# óf Íñvértéd Lógíç Íñpútš~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Ground Ref</source>
@@ -960,7 +916,7 @@ fór éxámplé óñé tákéñ fróm á dátá šhéét.~~~~~~~~~~~~~~]</transl
     </message>
     <message>
         <source>Analog - Digital interface</source>
-        <translation>[Áñálóg - Dígítál íñtérfáçé~~~~~~~~]</translation>
+        <translation>[Áñálóg - Dígítál íñtérfáçé~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Input parameters</source>
@@ -1162,31 +1118,19 @@ fór éxámplé óñé tákéñ fróm á dátá šhéét.~~~~~~~~~~~~~~]</transl
     </message>
     <message>
         <source>Vertical axis ( check to auto calculate )</source>
-        <translation>[Vértíçál áxíš ( çhéçk tó áútó çálçúláté )~~~~~~~~~~~~~~]</translation>
+        <translation>[Vértíçál áxíš ( çhéçk tó áútó çálçúláté )~~~~~~ ~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Grid spacing</source>
         <translation>[Gríd špáçíñg~~~]</translation>
     </message>
     <message>
-        <source>20</source>
-        <translation>[20~]</translation>
-    </message>
-    <message>
         <source>Maximum limit</source>
         <translation>[Máxímúm límít~~~]</translation>
     </message>
     <message>
-        <source>40</source>
-        <translation>[40~]</translation>
-    </message>
-    <message>
         <source>Minimum limit</source>
         <translation>[Míñímúm límít~~~]</translation>
-    </message>
-    <message>
-        <source>-40</source>
-        <translation>[-40~]</translation>
     </message>
     <message>
         <source>Labels</source>
@@ -1215,20 +1159,8 @@ fór éxámplé óñé tákéñ fróm á dátá šhéét.~~~~~~~~~~~~~~]</transl
 - 180 dégrééš~~~]</translation>
     </message>
     <message>
-        <source>45</source>
-        <translation>[45~]</translation>
-    </message>
-    <message>
-        <source>180</source>
-        <translation>[180~]</translation>
-    </message>
-    <message>
-        <source>-180</source>
-        <translation>[-180~]</translation>
-    </message>
-    <message>
         <source>Use &lt;b&gt;Phase -180 degrees&lt;/b&gt; to plot the phase curve with 180 degree offset</source>
-        <translation>[Úšé &lt;b&gt;Phášé -180 dégrééš&lt;/b&gt; tó plót thé phášé çúrvé wíth 180 dégréé óffšét~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Úšé &lt;b&gt;Phášé -180 dégrééš&lt;/b&gt; tó plót thé phášé çúrvé wíth 180 dégréé óffšét~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Display curves on</source>
@@ -1268,13 +1200,13 @@ fór éxámplé óñé tákéñ fróm á dátá šhéét.~~~~~~~~~~~~~~]</transl
     </message>
     <message>
         <source>Save current properties as default Bode Plot Probe configuration.&lt;br&gt;New probes will automatically have these saved properties applied when placed.</source>
-        <translation>[Šávé çúrréñt própértíéš áš défáúlt Bódé Plót Próbé çóñfígúrátíóñ.~~~~~~~~~~~~~~~~~~~~~~~~~~&lt;br&gt;Ñéw próbéš wíll áútómátíçállý hávé théšé šávéd própértíéš ápplíéd whéñ pláçéd.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Šávé çúrréñt própértíéš áš défáúlt Bódé Plót Próbé çóñfígúrátíóñ.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~&lt;br&gt;Ñéw próbéš wíll áútómátíçállý hávé théšé šávéd própértíéš ápplíéd whéñ pláçéd.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~]</translation>
     </message>
     <message>
         <source>Save settings as preferred
 Bode Plot Probe configuration</source>
-        <translation>[Šávé šéttíñgš áš préférréd~~~~~~~~~~
-Bódé Plót Próbé çóñfígúrátíóñ~~~~~~~~~~]</translation>
+        <translation>[Šávé šéttíñgš áš préférréd~~~~~~ ~~~~
+Bódé Plót Próbé çóñfígúrátíóñ~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>Help</source>
@@ -1301,21 +1233,21 @@ Bódé Plót Próbé çóñfígúrátíóñ~~~~~~~~~~]</translation>
     <name>EditBrelvonFilter</name>
     <message>
         <source>Edit BRELVON Continuous Time / Discrete Time Filter</source>
-        <translation>[Édít BRÉLVÓÑ Çóñtíñúóúš Tímé / Díšçrété Tímé Fíltér~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Édít BRÉLVÓÑ Çóñtíñúóúš Tímé / Díšçrété Tímé Fíltér~~~~~~ ~~~~~~ ~~~~~~]</translation>
     </message>
     <message>
         <source>&lt;p align="center"&gt;&lt;b&gt;Continuous / Discrete Time Filters&lt;/b&gt;&lt;/p&gt;</source>
-        <translation>&lt;p align="center"&gt;&lt;b&gt;[Çóñtíñúóúš / Díšçrété Tímé Fíltérš~~~~~~~~~~~~~~]&lt;/b&gt;&lt;/p&gt;</translation>
+        <translation>&lt;p align="center"&gt;&lt;b&gt;[Çóñtíñúóúš / Díšçrété Tímé Fíltérš~~~~~~ ~~~~~~ ~~]&lt;/b&gt;&lt;/p&gt;</translation>
     </message>
     <message>
         <source>This component can model either a continuous time filter or a discrete time filter.
 The transfer function for the filter can be entered in either "s" or "z" domains, 
 and the other domain's coefficients can be calculated using the "Calculate" buttons. 
 The model used in the simulation is selected using the "Model" buttons.</source>
-        <translation>[Thíš çómpóñéñt çáñ módél éíthér á çóñtíñúóúš tímé fíltér ór á díšçrété tímé fíltér.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
-Thé tráñšfér fúñçtíóñ fór thé fíltér çáñ bé éñtéréd íñ éíthér "š" ór "z" dómáíñš,~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~ 
-áñd thé óthér dómáíñ'š çóéffíçíéñtš çáñ bé çálçúlátéd úšíñg thé "Çálçúláté" búttóñš.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~ 
-Thé módél úšéd íñ thé šímúlátíóñ íš šéléçtéd úšíñg thé "Módél" búttóñš.~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thíš çómpóñéñt çáñ módél éíthér á çóñtíñúóúš tímé fíltér ór á díšçrété tímé fíltér.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~
+Thé tráñšfér fúñçtíóñ fór thé fíltér çáñ bé éñtéréd íñ éíthér "š" ór "z" dómáíñš,~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~ 
+áñd thé óthér dómáíñ'š çóéffíçíéñtš çáñ bé çálçúlátéd úšíñg thé "Çálçúláté" búttóñš.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~ 
+Thé módél úšéd íñ thé šímúlátíóñ íš šéléçtéd úšíñg thé "Módél" búttóñš.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Parameters</source>
@@ -1338,10 +1270,6 @@ Thé módél úšéd íñ thé šímúlátíóñ íš šéléçtéd úšíñg th
         <translation>[Órdér~]</translation>
     </message>
     <message>
-        <source>1</source>
-        <translation>[1~]</translation>
-    </message>
-    <message>
         <source>Gain</source>
         <translation>[Gáíñ~]</translation>
     </message>
@@ -1351,7 +1279,7 @@ Thé módél úšéd íñ thé šímúlátíóñ íš šéléçtéd úšíñg th
     </message>
     <message>
         <source>S-DomainTransfer Function</source>
-        <translation>[Š-DómáíñTráñšfér Fúñçtíóñ~~~~~~~~]</translation>
+        <translation>[Š-DómáíñTráñšfér Fúñçtíóñ~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>H(s) = Gain ×</source>
@@ -1375,7 +1303,7 @@ Thé módél úšéd íñ thé šímúlátíóñ íš šéléçtéd úšíñg th
     </message>
     <message>
         <source>Calculate "s" Coefficients</source>
-        <translation>[Çálçúláté "š" Çóéffíçíéñtš~~~~~~~~]</translation>
+        <translation>[Çálçúláté "š" Çóéffíçíéñtš~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Transform method</source>
@@ -1391,11 +1319,11 @@ Thé módél úšéd íñ thé šímúlátíóñ íš šéléçtéd úšíñg th
     </message>
     <message>
         <source>Calculate "z" Coefficients</source>
-        <translation>[Çálçúláté "z" Çóéffíçíéñtš~~~~~~~~]</translation>
+        <translation>[Çálçúláté "z" Çóéffíçíéñtš~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Z-Domain Transfer Function</source>
-        <translation>[Z-Dómáíñ Tráñšfér Fúñçtíóñ~~~~~~~~]</translation>
+        <translation>[Z-Dómáíñ Tráñšfér Fúñçtíóñ~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>H(z) = Gain ×</source>
@@ -1430,36 +1358,24 @@ Thé módél úšéd íñ thé šímúlátíóñ íš šéléçtéd úšíñg th
         <translation>[Módél préçíšíóñ~~~~]</translation>
     </message>
     <message>
-        <source>10</source>
-        <translation>[10~]</translation>
-    </message>
-    <message>
         <source>The precision of the model parameters is set with this value.&lt;br /&gt;Permissable values are from 3 to 16 significant digits.&lt;br/&gt;The Z-Coefficients are sensitive to this precision value.</source>
-        <translation>[Thé préçíšíóñ óf thé módél párámétérš íš šét wíth thíš válúé.~~~~~~~~~~~~~~~~~~~~~~~~&lt;br /&gt;Pérmíššáblé válúéš áré fróm 3 tó 16 šígñífíçáñt dígítš.~~~~~~~~~~~~~~~~~~~~~~&lt;br/&gt;Thé Z-Çóéffíçíéñtš áré šéñšítívé tó thíš préçíšíóñ válúé.~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thé préçíšíóñ óf thé módél párámétérš íš šét wíth thíš válúé.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~&lt;br /&gt;Pérmíššáblé válúéš áré fróm 3 tó 16 šígñífíçáñt dígítš.~~~~~~ ~~~~~~ ~~~~~~ ~~~~&lt;br/&gt;Thé Z-Çóéffíçíéñtš áré šéñšítívé tó thíš préçíšíóñ válúé.~~~~~~ ~~~~~~ ~~~~~~ ~~~]</translation>
     </message>
     <message>
         <source>Display precision</source>
         <translation>[Díšpláý préçíšíóñ~~~~~]</translation>
     </message>
     <message>
-        <source>6</source>
-        <translation>[6~]</translation>
-    </message>
-    <message>
         <source>The displayed precision of the various coefficients is set with this parameter.&lt;br /&gt;The values used in calculations usually have higher precision than the display precision.&lt;br /&gt;Display precision has no impact on the model behavior.</source>
-        <translation>[Thé díšpláýéd préçíšíóñ óf thé váríóúš çóéffíçíéñtš íš šét wíth thíš párámétér.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~&lt;br /&gt;Thé válúéš úšéd íñ çálçúlátíóñš úšúállý hávé híghér préçíšíóñ tháñ thé díšpláý préçíšíóñ.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~&lt;br /&gt;Díšpláý préçíšíóñ háš ñó ímpáçt óñ thé módél béhávíór.~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thé díšpláýéd préçíšíóñ óf thé váríóúš çóéffíçíéñtš íš šét wíth thíš párámétér.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~&lt;br /&gt;Thé válúéš úšéd íñ çálçúlátíóñš úšúállý hávé híghér préçíšíóñ tháñ thé díšpláý préçíšíóñ.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~&lt;br /&gt;Díšpláý préçíšíóñ háš ñó ímpáçt óñ thé módél béhávíór.~~~~~~ ~~~~~~ ~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Annotation precision</source>
         <translation>[Áññótátíóñ préçíšíóñ~~~~~~]</translation>
     </message>
     <message>
-        <source>4</source>
-        <translation>[4~]</translation>
-    </message>
-    <message>
         <source>After closing this dialog, the symbol will be annotated with a expression representing&lt;br/&gt;the numerator and denominator equations.&lt;br/&gt;This control allows the precision of coefficients in these equations to be set to a specified precision.&lt;br /&gt;Annotation precision has no impact on the model behavior.</source>
-        <translation>[Áftér çlóšíñg thíš díálóg, thé šýmból wíll bé áññótátéd wíth á éxpréššíóñ répréšéñtíñg~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~&lt;br/&gt;thé ñúmérátór áñd déñómíñátór éqúátíóñš.~~~~~~~~~~~~~~~~&lt;br/&gt;Thíš çóñtról állówš thé préçíšíóñ óf çóéffíçíéñtš íñ théšé éqúátíóñš tó bé šét tó á špéçífíéd préçíšíóñ.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~&lt;br /&gt;Áññótátíóñ préçíšíóñ háš ñó ímpáçt óñ thé módél béhávíór.~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Áftér çlóšíñg thíš díálóg, thé šýmból wíll bé áññótátéd wíth á éxpréššíóñ répréšéñtíñg~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~&lt;br/&gt;thé ñúmérátór áñd déñómíñátór éqúátíóñš.~~~~~~ ~~~~~~ ~~~~&lt;br/&gt;Thíš çóñtról állówš thé préçíšíóñ óf çóéffíçíéñtš íñ théšé éqúátíóñš tó bé šét tó á špéçífíéd préçíšíóñ.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~&lt;br /&gt;Áññótátíóñ préçíšíóñ háš ñó ímpáçt óñ thé módél béhávíór.~~~~~~ ~~~~~~ ~~~~~~ ~~~]</translation>
     </message>
     <message>
         <source>Help</source>
@@ -1483,59 +1399,59 @@ Thé módél úšéd íñ thé šímúlátíóñ íš šéléçtéd úšíñg th
     </message>
     <message>
         <source>Division by Zero detected!</source>
-        <translation>[Dívíšíóñ bý Zéró détéçtéd!~~~~~~~~]</translation>
+        <translation>[Dívíšíóñ bý Zéró détéçtéd!~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Using the coefficients provided, calculation of the new coeficiencts will result in a divide by zero.
 The calculation has been aborted and the coefficients have not been altered.
 Please check your coefficients and try again.</source>
-        <translation>[Úšíñg thé çóéffíçíéñtš próvídéd, çálçúlátíóñ óf thé ñéw çóéfíçíéñçtš wíll réšúlt íñ á dívídé bý zéró.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
-Thé çálçúlátíóñ háš bééñ ábórtéd áñd thé çóéffíçíéñtš hávé ñót bééñ áltéréd.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
-Pléášé çhéçk ýóúr çóéffíçíéñtš áñd trý ágáíñ.~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Úšíñg thé çóéffíçíéñtš próvídéd, çálçúlátíóñ óf thé ñéw çóéfíçíéñçtš wíll réšúlt íñ á dívídé bý zéró.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~
+Thé çálçúlátíóñ háš bééñ ábórtéd áñd thé çóéffíçíéñtš hávé ñót bééñ áltéréd.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~
+Pléášé çhéçk ýóúr çóéffíçíéñtš áñd trý ágáíñ.~~~~~~ ~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>Maximum Model Order Exceeded!</source>
-        <translation>[Máxímúm Módél Órdér Éxçéédéd!~~~~~~~~~~]</translation>
+        <translation>[Máxímúm Módél Órdér Éxçéédéd!~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>This device allows up to 2nd order models.
 To model a higher order filter, you can cascade multiple devices.</source>
-        <translation>[Thíš dévíçé állówš úp tó 2ñd órdér módélš.~~~~~~~~~~~~~~~~~
-Tó módél á híghér órdér fíltér, ýóú çáñ çášçádé múltíplé dévíçéš.~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thíš dévíçé állówš úp tó 2ñd órdér módélš.~~~~~~ ~~~~~~ ~~~~~
+Tó módél á híghér órdér fíltér, ýóú çáñ çášçádé múltíplé dévíçéš.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~]</translation>
     </message>
     <message>
         <source>Minimum Model Order Exceeded!</source>
-        <translation>[Míñímúm Módél Órdér Éxçéédéd!~~~~~~~~~~]</translation>
+        <translation>[Míñímúm Módél Órdér Éxçéédéd!~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>This device allows a minimum of a 1st order model.
 To model a 0th order device, you can use the Zero Order Sample and Hold.</source>
-        <translation>[Thíš dévíçé állówš á míñímúm óf á 1št órdér módél.~~~~~~~~~~~~~~~~~~~~
-Tó módél á 0th órdér dévíçé, ýóú çáñ úšé thé Zéró Órdér Šámplé áñd Hóld.~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thíš dévíçé állówš á míñímúm óf á 1št órdér módél.~~~~~~ ~~~~~~ ~~~~~~ ~~
+Tó módél á 0th órdér dévíçé, ýóú çáñ úšé thé Zéró Órdér Šámplé áñd Hóld.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~]</translation>
     </message>
     <message>
         <source>S Coefficients have changed</source>
-        <translation>[Š Çóéffíçíéñtš hávé çháñgéd~~~~~~~~~]</translation>
+        <translation>[Š Çóéffíçíéñtš hávé çháñgéd~~~~~~ ~~~]</translation>
     </message>
     <message>
         <source>Z Coefficients have changed</source>
-        <translation>[Z Çóéffíçíéñtš hávé çháñgéd~~~~~~~~~]</translation>
+        <translation>[Z Çóéffíçíéñtš hávé çháñgéd~~~~~~ ~~~]</translation>
     </message>
     <message>
         <source>It appears that you have changed the S domain coefficients,
 yet haven't re-calculated the Z domain coefficients.
 Press "Calculate Now" to calculate and save, "Cancel" to return to BRELVON without calculating.</source>
-        <translation>[Ít áppéárš thát ýóú hávé çháñgéd thé Š dómáíñ çóéffíçíéñtš,~~~~~~~~~~~~~~~~~~~~~~~~
-ýét hávéñ't ré-çálçúlátéd thé Z dómáíñ çóéffíçíéñtš.~~~~~~~~~~~~~~~~~~~~~
-Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél" tó rétúrñ tó BRÉLVÓÑ wíthóút çálçúlátíñg.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Ít áppéárš thát ýóú hávé çháñgéd thé Š dómáíñ çóéffíçíéñtš,~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~
+ýét hávéñ't ré-çálçúlátéd thé Z dómáíñ çóéffíçíéñtš.~~~~~~ ~~~~~~ ~~~~~~ ~~~
+Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél" tó rétúrñ tó BRÉLVÓÑ wíthóút çálçúlátíñg.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~]</translation>
     </message>
     <message>
         <source>It appears that you have changed the Z domain coefficients,
 yet haven't re-calculated the S domain coefficients.
 Press "Calculate Now" to calculate and save, "Cancel" to return to BRELVON without calculating.</source>
-        <translation>[Ít áppéárš thát ýóú hávé çháñgéd thé Z dómáíñ çóéffíçíéñtš,~~~~~~~~~~~~~~~~~~~~~~~~
-ýét hávéñ't ré-çálçúlátéd thé Š dómáíñ çóéffíçíéñtš.~~~~~~~~~~~~~~~~~~~~~
-Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél" tó rétúrñ tó BRÉLVÓÑ wíthóút çálçúlátíñg.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Ít áppéárš thát ýóú hávé çháñgéd thé Z dómáíñ çóéffíçíéñtš,~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~
+ýét hávéñ't ré-çálçúlátéd thé Š dómáíñ çóéffíçíéñtš.~~~~~~ ~~~~~~ ~~~~~~ ~~~
+Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél" tó rétúrñ tó BRÉLVÓÑ wíthóút çálçúlátíñg.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~]</translation>
     </message>
     <message>
         <source>Calculate Now</source>
@@ -1550,19 +1466,15 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     <name>EditBrelvonMosfetDriverDialog</name>
     <message>
         <source>Edit Multi-Level MOSFET Driver</source>
-        <translation>[Édít Múltí-Lévél MÓŠFÉT Drívér~~~~~~~~~~]</translation>
+        <translation>[Édít Múltí-Lévél MÓŠFÉT Drívér~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>Multi-Level MOSFET Driver (Version 8.0+)</source>
-        <translation>[Múltí-Lévél MÓŠFÉT Drívér (Véršíóñ 8.0+)~~~~~~~~~~~~~~]</translation>
+        <translation>[Múltí-Lévél MÓŠFÉT Drívér (Véršíóñ 8.0+)~~~~~~ ~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Model level</source>
         <translation>[Módél lévél~~]</translation>
-    </message>
-    <message>
-        <source>-1</source>
-        <translation>[-1~]</translation>
     </message>
     <message>
         <source>Level 0</source>
@@ -1598,11 +1510,7 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     </message>
     <message>
         <source>&lt;p&gt;The threshold and the hysteresis set the input voltage thresholds:&lt;br/&gt;TH = T + H/2 and TL = T - H/2.&lt;/p&gt;&lt;img src=":/threshold_hysteresis.png"/&gt;</source>
-        <translation>&lt;p&gt;[Thé thréšhóld áñd thé hýštéréšíš šét thé íñpút vóltágé thréšhóldš:~~~~~~~~~~~~~~~~~~~~~~~~~~&lt;br/&gt;TH = T + H/2 áñd TL = T - H/2.~~~~~~~~~~~~]&lt;/p&gt;&lt;img src=":/threshold_hysteresis.png"/&gt;</translation>
-    </message>
-    <message>
-        <source>2.5</source>
-        <translation>[2.5~]</translation>
+        <translation>&lt;p&gt;[Thé thréšhóld áñd thé hýštéréšíš šét thé íñpút vóltágé thréšhóldš:~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~&lt;br/&gt;TH = T + H/2 áñd TL = T - H/2.~~~~~~ ~~~~~~]&lt;/p&gt;&lt;img src=":/threshold_hysteresis.png"/&gt;</translation>
     </message>
     <message>
         <source>V</source>
@@ -1613,24 +1521,16 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
         <translation>[Hýštéréšíš~~]</translation>
     </message>
     <message>
-        <source>1</source>
-        <translation>[1~]</translation>
-    </message>
-    <message>
         <source>Use delay</source>
         <translation>[Úšé déláý~~]</translation>
     </message>
     <message>
         <source>The delays are independent of the logical inversion: the rising-edge delay always applies to the rising edge of the input.</source>
-        <translation>[Thé déláýš áré íñdépéñdéñt óf thé lógíçál íñvéršíóñ: thé ríšíñg-édgé déláý álwáýš ápplíéš tó thé ríšíñg édgé óf thé íñpút.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thé déláýš áré íñdépéñdéñt óf thé lógíçál íñvéršíóñ: thé ríšíñg-édgé déláý álwáýš ápplíéš tó thé ríšíñg édgé óf thé íñpút.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~]</translation>
     </message>
     <message>
         <source>Rising-edge delay</source>
         <translation>[Ríšíñg-édgé déláý~~~~~]</translation>
-    </message>
-    <message>
-        <source>15n</source>
-        <translation>[15ñ~]</translation>
     </message>
     <message>
         <source>s</source>
@@ -1639,10 +1539,6 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     <message>
         <source>Falling-edge delay</source>
         <translation>[Fállíñg-édgé déláý~~~~~]</translation>
-    </message>
-    <message>
-        <source>10n</source>
-        <translation>[10ñ~]</translation>
     </message>
     <message>
         <source>Upper switch</source>
@@ -1662,19 +1558,11 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     </message>
     <message>
         <source>I3 is the peak current, and R3 the output resistance when the driver is sourcing I3.</source>
-        <translation>[Í3 íš thé péák çúrréñt, áñd R3 thé óútpút réšíštáñçé whéñ thé drívér íš šóúrçíñg Í3.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>10Meg</source>
-        <translation>[10Még~]</translation>
+        <translation>[Í3 íš thé péák çúrréñt, áñd R3 thé óútpút réšíštáñçé whéñ thé drívér íš šóúrçíñg Í3.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>I3</source>
         <translation>[Í3~]</translation>
-    </message>
-    <message>
-        <source>2</source>
-        <translation>[2~]</translation>
     </message>
     <message>
         <source>A</source>
@@ -1682,19 +1570,11 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     </message>
     <message>
         <source>Upper switch PWL model</source>
-        <translation>[Úppér šwítçh PWL módél~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>10</source>
-        <translation>[10~]</translation>
+        <translation>[Úppér šwítçh PWL módél~~~~~~ ~]</translation>
     </message>
     <message>
         <source>RON2</source>
         <translation>[RÓÑ2~]</translation>
-    </message>
-    <message>
-        <source>500m</source>
-        <translation>[500m~]</translation>
     </message>
     <message>
         <source>V1</source>
@@ -1702,23 +1582,15 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     </message>
     <message>
         <source>V1 is the voltage where the driver goes from the RON1 segment to the RON2 segment.</source>
-        <translation>[V1 íš thé vóltágé whéré thé drívér góéš fróm thé RÓÑ1 šégméñt tó thé RÓÑ2 šégméñt.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[V1 íš thé vóltágé whéré thé drívér góéš fróm thé RÓÑ1 šégméñt tó thé RÓÑ2 šégméñt.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~]</translation>
     </message>
     <message>
         <source>Lower switch</source>
         <translation>[Lówér šwítçh~~~]</translation>
     </message>
     <message>
-        <source>3</source>
-        <translation>[3~]</translation>
-    </message>
-    <message>
         <source>Lower switch PWL model</source>
-        <translation>[Lówér šwítçh PWL módél~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>100m</source>
-        <translation>[100m~]</translation>
+        <translation>[Lówér šwítçh PWL módél~~~~~~ ~]</translation>
     </message>
     <message>
         <source>Additional Parameters</source>
@@ -1730,19 +1602,19 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     </message>
     <message>
         <source>Initial condition of upper switch</source>
-        <translation>[Íñítíál çóñdítíóñ óf úppér šwítçh~~~~~~~~~~~]</translation>
+        <translation>[Íñítíál çóñdítíóñ óf úppér šwítçh~~~~~~ ~~~~~]</translation>
     </message>
     <message>
         <source>Switch off resistances</source>
-        <translation>[Šwítçh óff réšíštáñçéš~~~~~~~]</translation>
+        <translation>[Šwítçh óff réšíštáñçéš~~~~~~ ~]</translation>
     </message>
     <message>
         <source>Switch on-state voltages</source>
-        <translation>[Šwítçh óñ-štáté vóltágéš~~~~~~~~]</translation>
+        <translation>[Šwítçh óñ-štáté vóltágéš~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>The drops across the switches at the peak and at the minimum of the output; kept for compatibility with an older driver.</source>
-        <translation>[Thé drópš áçróšš thé šwítçhéš át thé péák áñd át thé míñímúm óf thé óútpút; képt fór çómpátíbílítý wíth áñ óldér drívér.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thé drópš áçróšš thé šwítçhéš át thé péák áñd át thé míñímúm óf thé óútpút; képt fór çómpátíbílítý wíth áñ óldér drívér.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>Help</source>
@@ -1758,7 +1630,7 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     </message>
     <message>
         <source>&lt;b&gt;Level 0&lt;/b&gt; models the output switches as simple on/off resistances.&lt;br/&gt;&lt;b&gt;Level 1&lt;/b&gt; includes the saturation region where switches are current limited.&lt;br/&gt;&lt;b&gt;Level 2&lt;/b&gt; models the output switches as 3-segment PWL resistors.&lt;br/&gt;Compatible with Version 8.0+. Click on the &lt;b&gt;Help&lt;/b&gt; button for more information.&lt;p&gt;To enter a expression containing parameter names enclosed in {}, right-click and select the Parameterize context menu option.&lt;/p&gt;</source>
-        <translation>&lt;b&gt;[Lévél 0&lt;/b&gt; módélš thé óútpút šwítçhéš áš šímplé óñ/óff réšíštáñçéš.~~~~~~~~~~~~~~~~~~~~~~~~~~&lt;br/&gt;&lt;b&gt;Lévél 1&lt;/b&gt; íñçlúdéš thé šátúrátíóñ régíóñ whéré šwítçhéš áré çúrréñt límítéd.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~&lt;br/&gt;&lt;b&gt;Lévél 2&lt;/b&gt; módélš thé óútpút šwítçhéš áš 3-šégméñt PWL réšíštórš.~~~~~~~~~~~~~~~~~~~~~~~~~&lt;br/&gt;Çómpátíblé wíth Véršíóñ 8.0+. Çlíçk óñ thé &lt;b&gt;Hélp&lt;/b&gt; búttóñ fór móré íñfórmátíóñ.&lt;p&gt;Tó éñtér á éxpréššíóñ çóñtáíñíñg párámétér ñáméš éñçlóšéd íñ {}, ríght-çlíçk áñd šéléçt thé Párámétérízé çóñtéxt méñú óptíóñ.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]&lt;/p&gt;</translation>
+        <translation>&lt;b&gt;[Lévél 0&lt;/b&gt; módélš thé óútpút šwítçhéš áš šímplé óñ/óff réšíštáñçéš.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~&lt;br/&gt;&lt;b&gt;Lévél 1&lt;/b&gt; íñçlúdéš thé šátúrátíóñ régíóñ whéré šwítçhéš áré çúrréñt límítéd.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~&lt;br/&gt;&lt;b&gt;Lévél 2&lt;/b&gt; módélš thé óútpút šwítçhéš áš 3-šégméñt PWL réšíštórš.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~&lt;br/&gt;Çómpátíblé wíth Véršíóñ 8.0+. Çlíçk óñ thé &lt;b&gt;Hélp&lt;/b&gt; búttóñ fór móré íñfórmátíóñ.&lt;p&gt;Tó éñtér á éxpréššíóñ çóñtáíñíñg párámétér ñáméš éñçlóšéd íñ {}, ríght-çlíçk áñd šéléçt thé Párámétérízé çóñtéxt méñú óptíóñ.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~]&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
@@ -1828,11 +1700,11 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     <name>EditMultiLevelInductorCapacitorDialog</name>
     <message>
         <source>Edit Multi-Level Capacitor</source>
-        <translation>[Édít Múltí-Lévél Çápáçítór~~~~~~~~]</translation>
+        <translation>[Édít Múltí-Lévél Çápáçítór~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Multi-Level Capacitor w/ Levels 0-3 (Version 8.0+)</source>
-        <translation>[Múltí-Lévél Çápáçítór w/ Lévélš 0-3 (Véršíóñ 8.0+)~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Múltí-Lévél Çápáçítór w/ Lévélš 0-3 (Véršíóñ 8.0+)~~~~~~ ~~~~~~ ~~~~~~]</translation>
     </message>
     <message>
         <source>Model level</source>
@@ -1840,7 +1712,7 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     </message>
     <message>
         <source>&lt;b&gt;Level 0&lt;/b&gt; is an ideal capacitor with no parasitic elements.&lt;br/&gt;&lt;b&gt;Level 1&lt;/b&gt; is a capacitor with leakage resistance.&lt;br/&gt;&lt;b&gt;Level 2&lt;/b&gt; is a capacitor with ESR and leakage resistance.&lt;br/&gt;&lt;b&gt;Level 3&lt;/b&gt; is a capacitor with ESR, ESL and leakage resistance.&lt;p&gt;To enter an expression containing parameter names enclosed in {}, right-click and select the Parameterize context menu option.&lt;/p&gt;</source>
-        <translation>&lt;b&gt;[Lévél 0&lt;/b&gt; íš áñ ídéál çápáçítór wíth ñó párášítíç éléméñtš.~~~~~~~~~~~~~~~~~~~~~~~&lt;br/&gt;&lt;b&gt;Lévél 1&lt;/b&gt; íš á çápáçítór wíth léákágé réšíštáñçé.~~~~~~~~~~~~~~~~~~~&lt;br/&gt;&lt;b&gt;Lévél 2&lt;/b&gt; íš á çápáçítór wíth ÉŠR áñd léákágé réšíštáñçé.~~~~~~~~~~~~~~~~~~~~~~&lt;br/&gt;&lt;b&gt;Lévél 3&lt;/b&gt; íš á çápáçítór wíth ÉŠR, ÉŠL áñd léákágé réšíštáñçé.&lt;p&gt;Tó éñtér áñ éxpréššíóñ çóñtáíñíñg párámétér ñáméš éñçlóšéd íñ {}, ríght-çlíçk áñd šéléçt thé Párámétérízé çóñtéxt méñú óptíóñ.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]&lt;/p&gt;</translation>
+        <translation>&lt;b&gt;[Lévél 0&lt;/b&gt; íš áñ ídéál çápáçítór wíth ñó párášítíç éléméñtš.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~&lt;br/&gt;&lt;b&gt;Lévél 1&lt;/b&gt; íš á çápáçítór wíth léákágé réšíštáñçé.~~~~~~ ~~~~~~ ~~~~~~ ~&lt;br/&gt;&lt;b&gt;Lévél 2&lt;/b&gt; íš á çápáçítór wíth ÉŠR áñd léákágé réšíštáñçé.~~~~~~ ~~~~~~ ~~~~~~ ~~~~&lt;br/&gt;&lt;b&gt;Lévél 3&lt;/b&gt; íš á çápáçítór wíth ÉŠR, ÉŠL áñd léákágé réšíštáñçé.&lt;p&gt;Tó éñtér áñ éxpréššíóñ çóñtáíñíñg párámétér ñáméš éñçlóšéd íñ {}, ríght-çlíçk áñd šéléçt thé Párámétérízé çóñtéxt méñú óptíóñ.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~]&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Level 0</source>
@@ -1871,16 +1743,12 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
         <translation>[Çápáçítáñçé~~]</translation>
     </message>
     <message>
-        <source>1u</source>
-        <translation>[1ú~]</translation>
-    </message>
-    <message>
         <source>F</source>
         <translation>[F~]</translation>
     </message>
     <message>
         <source>Piecewise linear capacitance</source>
-        <translation>[Píéçéwíšé líñéár çápáçítáñçé~~~~~~~~~]</translation>
+        <translation>[Píéçéwíšé líñéár çápáçítáñçé~~~~~~ ~~~]</translation>
     </message>
     <message>
         <source>Define...</source>
@@ -1891,28 +1759,16 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
         <translation>[Léákágé réšíštáñçé~~~~~]</translation>
     </message>
     <message>
-        <source>100Meg</source>
-        <translation>[100Még~]</translation>
-    </message>
-    <message>
         <source>Ohms</source>
         <translation>[Óhmš~]</translation>
     </message>
     <message>
         <source>Series resistance (ESR)</source>
-        <translation>[Šéríéš réšíštáñçé (ÉŠR)~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>10m</source>
-        <translation>[10m~]</translation>
+        <translation>[Šéríéš réšíštáñçé (ÉŠR)~~~~~~ ~]</translation>
     </message>
     <message>
         <source>Series inductance (ESL)</source>
-        <translation>[Šéríéš íñdúçtáñçé (ÉŠL)~~~~~~~]</translation>
-    </message>
-    <message>
-        <source>1n</source>
-        <translation>[1ñ~]</translation>
+        <translation>[Šéríéš íñdúçtáñçé (ÉŠL)~~~~~~ ~]</translation>
     </message>
     <message>
         <source>H</source>
@@ -1921,10 +1777,6 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     <message>
         <source>ESL Shunt resistance</source>
         <translation>[ÉŠL Šhúñt réšíštáñçé~~~~~~]</translation>
-    </message>
-    <message>
-        <source>1k</source>
-        <translation>[1k~]</translation>
     </message>
     <message>
         <source>Calc...</source>
@@ -1939,10 +1791,6 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
         <translation>[Íñítíál çóñdítíóñ~~~~~]</translation>
     </message>
     <message>
-        <source>0</source>
-        <translation>[0~]</translation>
-    </message>
-    <message>
         <source>V</source>
         <translation>[V~]</translation>
     </message>
@@ -1955,12 +1803,8 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
         <translation>[Qúáñtítý~]</translation>
     </message>
     <message>
-        <source>1</source>
-        <translation>[1~]</translation>
-    </message>
-    <message>
         <source>Monte Carlo Parameters</source>
-        <translation>[Móñté Çárló Párámétérš~~~~~~~]</translation>
+        <translation>[Móñté Çárló Párámétérš~~~~~~ ~]</translation>
     </message>
     <message>
         <source>3-Sigma Tolerance</source>
@@ -1968,7 +1812,7 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     </message>
     <message>
         <source>Probability Distribution Function</source>
-        <translation>[Próbábílítý Díštríbútíóñ Fúñçtíóñ~~~~~~~~~~~]</translation>
+        <translation>[Próbábílítý Díštríbútíóñ Fúñçtíóñ~~~~~~ ~~~~~]</translation>
     </message>
     <message>
         <source>%</source>
@@ -1976,7 +1820,7 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     </message>
     <message>
         <source>The shunt resistance only limits the high frequency behaviour, so it has no probability distribution, and its tolerance is 0 in the model.</source>
-        <translation>[Thé šhúñt réšíštáñçé óñlý límítš thé hígh fréqúéñçý béhávíóúr, šó ít háš ñó próbábílítý díštríbútíóñ, áñd ítš tóléráñçé íš 0 íñ thé módél.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thé šhúñt réšíštáñçé óñlý límítš thé hígh fréqúéñçý béhávíóúr, šó ít háš ñó próbábílítý díštríbútíóñ, áñd ítš tóléráñçé íš 0 íñ thé módél.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~]</translation>
     </message>
     <message>
         <source>None</source>
@@ -1988,7 +1832,7 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     </message>
     <message>
         <source>Piecewise linear inductance</source>
-        <translation>[Píéçéwíšé líñéár íñdúçtáñçé~~~~~~~~~]</translation>
+        <translation>[Píéçéwíšé líñéár íñdúçtáñçé~~~~~~ ~~~]</translation>
     </message>
     <message>
         <source>Shunt resistance</source>
@@ -2004,42 +1848,42 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     </message>
     <message>
         <source>Edit Multi-Level PWL Capacitor</source>
-        <translation>[Édít Múltí-Lévél PWL Çápáçítór~~~~~~~~~~]</translation>
+        <translation>[Édít Múltí-Lévél PWL Çápáçítór~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>Multi-Level PWL Capacitor w/ Levels 0-3 (Version 8.0+)</source>
-        <translation>[Múltí-Lévél PWL Çápáçítór w/ Lévélš 0-3 (Véršíóñ 8.0+)~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Múltí-Lévél PWL Çápáçítór w/ Lévélš 0-3 (Véršíóñ 8.0+)~~~~~~ ~~~~~~ ~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Edit Multi-Level Lossy Inductor</source>
-        <translation>[Édít Múltí-Lévél Lóššý Íñdúçtór~~~~~~~~~~]</translation>
+        <translation>[Édít Múltí-Lévél Lóššý Íñdúçtór~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>Multi-Level Lossy Inductor (Version 8.0+)</source>
-        <translation>[Múltí-Lévél Lóššý Íñdúçtór (Véršíóñ 8.0+)~~~~~~~~~~~~~~]</translation>
+        <translation>[Múltí-Lévél Lóššý Íñdúçtór (Véršíóñ 8.0+)~~~~~~ ~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Edit Multi-Level Lossy PWL Inductor</source>
-        <translation>[Édít Múltí-Lévél Lóššý PWL Íñdúçtór~~~~~~~~~~~~]</translation>
+        <translation>[Édít Múltí-Lévél Lóššý PWL Íñdúçtór~~~~~~ ~~~~~~]</translation>
     </message>
     <message>
         <source>Multi-Level Lossy PWL Inductor (Version 8.0+)</source>
-        <translation>[Múltí-Lévél Lóššý PWL Íñdúçtór (Véršíóñ 8.0+)~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Múltí-Lévél Lóššý PWL Íñdúçtór (Véršíóñ 8.0+)~~~~~~ ~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>&lt;b&gt;Level 0&lt;/b&gt; is an inductor with a parallel shunt resistance.&lt;br/&gt;&lt;b&gt;Level 1&lt;/b&gt; is an inductor with a parallel shunt resistance and equivalent series resistance (ESR).&lt;p&gt;To enter an expression containing parameter names enclosed in {}, right-click and select the Parameterize context menu option.&lt;/p&gt;</source>
-        <translation>&lt;b&gt;[Lévél 0&lt;/b&gt; íš áñ íñdúçtór wíth á párállél šhúñt réšíštáñçé.~~~~~~~~~~~~~~~~~~~~~~&lt;br/&gt;&lt;b&gt;Lévél 1&lt;/b&gt; íš áñ íñdúçtór wíth á párállél šhúñt réšíštáñçé áñd éqúíváléñt šéríéš réšíštáñçé (ÉŠR).&lt;p&gt;Tó éñtér áñ éxpréššíóñ çóñtáíñíñg párámétér ñáméš éñçlóšéd íñ {}, ríght-çlíçk áñd šéléçt thé Párámétérízé çóñtéxt méñú óptíóñ.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]&lt;/p&gt;</translation>
+        <translation>&lt;b&gt;[Lévél 0&lt;/b&gt; íš áñ íñdúçtór wíth á párállél šhúñt réšíštáñçé.~~~~~~ ~~~~~~ ~~~~~~ ~~~~&lt;br/&gt;&lt;b&gt;Lévél 1&lt;/b&gt; íš áñ íñdúçtór wíth á párállél šhúñt réšíštáñçé áñd éqúíváléñt šéríéš réšíštáñçé (ÉŠR).&lt;p&gt;Tó éñtér áñ éxpréššíóñ çóñtáíñíñg párámétér ñáméš éñçlóšéd íñ {}, ríght-çlíçk áñd šéléçt thé Párámétérízé çóñtéxt méñú óptíóñ.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~]&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
     <name>EditParameterisedOpampDialog</name>
     <message>
         <source>Edit Parameterised Opamp</source>
-        <translation>[Édít Párámétéríšéd Ópámp~~~~~~~~]</translation>
+        <translation>[Édít Párámétéríšéd Ópámp~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Parameterised Opamp (Version 8.0+)</source>
-        <translation>[Párámétéríšéd Ópámp (Véršíóñ 8.0+)~~~~~~~~~~~~]</translation>
+        <translation>[Párámétéríšéd Ópámp (Véršíóñ 8.0+)~~~~~~ ~~~~~~]</translation>
     </message>
     <message>
         <source>Model level</source>
@@ -2063,7 +1907,7 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     </message>
     <message>
         <source>Level 1 and 2 parameters</source>
-        <translation>[Lévél 1 áñd 2 párámétérš~~~~~~~~]</translation>
+        <translation>[Lévél 1 áñd 2 párámétérš~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Offset Voltage</source>
@@ -2151,11 +1995,11 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     </message>
     <message>
         <source>Max. Output Source Current</source>
-        <translation>[Máx. Óútpút Šóúrçé Çúrréñt~~~~~~~~]</translation>
+        <translation>[Máx. Óútpút Šóúrçé Çúrréñt~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Max. Output Sink Current</source>
-        <translation>[Máx. Óútpút Šíñk Çúrréñt~~~~~~~~]</translation>
+        <translation>[Máx. Óútpút Šíñk Çúrréñt~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Positive Headroom</source>
@@ -2167,7 +2011,7 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     </message>
     <message>
         <source>Use back-annotated information for initial condition if available</source>
-        <translation>[Úšé báçk-áññótátéd íñfórmátíóñ fór íñítíál çóñdítíóñ íf áváíláblé~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Úšé báçk-áññótátéd íñfórmátíóñ fór íñítíál çóñdítíóñ íf áváíláblé~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~]</translation>
     </message>
     <message>
         <source>Parameters</source>
@@ -2203,7 +2047,7 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     </message>
     <message>
         <source>Offset V. (Statistical)</source>
-        <translation>[Óffšét V. (Štátíštíçál)~~~~~~~]</translation>
+        <translation>[Óffšét V. (Štátíštíçál)~~~~~~ ~]</translation>
     </message>
     <message>
         <source>Help</source>
@@ -2211,15 +2055,15 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     </message>
     <message>
         <source>Edit Multi-Level Parameterized Opamp (Version 8.0+)</source>
-        <translation>[Édít Múltí-Lévél Párámétérízéd Ópámp (Véršíóñ 8.0+)~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Édít Múltí-Lévél Párámétérízéd Ópámp (Véršíóñ 8.0+)~~~~~~ ~~~~~~ ~~~~~~]</translation>
     </message>
     <message>
         <source>Maximum Output AC Resistance Hit</source>
-        <translation>[Máxímúm Óútpút ÁÇ Réšíštáñçé Hít~~~~~~~~~~~]</translation>
+        <translation>[Máxímúm Óútpút ÁÇ Réšíštáñçé Hít~~~~~~ ~~~~~]</translation>
     </message>
     <message>
         <source>The maximum value of the &lt;b&gt;Output AC Resistance&lt;/b&gt; must be less than the &lt;b&gt;Output Resistance&lt;/b&gt; value.</source>
-        <translation>[Thé máxímúm válúé óf thé &lt;b&gt;Óútpút ÁÇ Réšíštáñçé&lt;/b&gt; múšt bé léšš tháñ thé &lt;b&gt;Óútpút Réšíštáñçé&lt;/b&gt; válúé.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thé máxímúm válúé óf thé &lt;b&gt;Óútpút ÁÇ Réšíštáñçé&lt;/b&gt; múšt bé léšš tháñ thé &lt;b&gt;Óútpút Réšíštáñçé&lt;/b&gt; válúé.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~]</translation>
     </message>
 </context>
 <context>
@@ -2282,7 +2126,7 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     </message>
     <message>
         <source>Include as Property Font</source>
-        <translation>[Íñçlúdé áš Própértý Fóñt~~~~~~~~]</translation>
+        <translation>[Íñçlúdé áš Própértý Fóñt~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Preview</source>
@@ -2290,7 +2134,7 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     </message>
     <message>
         <source>Preview current stlye as:</source>
-        <translation>[Prévíéw çúrréñt štlýé áš:~~~~~~~~]</translation>
+        <translation>[Prévíéw çúrréñt štlýé áš:~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Wire</source>
@@ -2317,7 +2161,7 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     <name>EfficiencyDialog</name>
     <message>
         <source>Vantrell/BRELVON Efficiency Calculator</source>
-        <translation>[Váñtréll/BRÉLVÓÑ Éffíçíéñçý Çálçúlátór~~~~~~~~~~~~~]</translation>
+        <translation>[Váñtréll/BRÉLVÓÑ Éffíçíéñçý Çálçúlátór~~~~~~ ~~~~~~ ~]</translation>
     </message>
     <message>
         <source>&lt;b&gt;Efficiency Calculator&lt;/b&gt;</source>
@@ -2329,7 +2173,7 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     </message>
     <message>
         <source>Don't show this message again</source>
-        <translation>[Dóñ't šhów thíš méššágé ágáíñ~~~~~~~~~~]</translation>
+        <translation>[Dóñ't šhów thíš méššágé ágáíñ~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>All Power Probes</source>
@@ -2439,11 +2283,11 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     <name>LoopForgeEditClocksDialog</name>
     <message>
         <source>LoopForge Global Clocks</source>
-        <translation>[LóópFórgé Glóbál Çlóçkš~~~~~~~]</translation>
+        <translation>[LóópFórgé Glóbál Çlóçkš~~~~~~ ~]</translation>
     </message>
     <message>
         <source>LoopForge - Edit Global Clocks</source>
-        <translation>[LóópFórgé - Édít Glóbál Çlóçkš~~~~~~~~~~]</translation>
+        <translation>[LóópFórgé - Édít Glóbál Çlóçkš~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>Sys CLK</source>
@@ -2507,11 +2351,11 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     </message>
     <message>
         <source>Move the selected clock up</source>
-        <translation>[Móvé thé šéléçtéd çlóçk úp~~~~~~~~]</translation>
+        <translation>[Móvé thé šéléçtéd çlóçk úp~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Move the selected clock down</source>
-        <translation>[Móvé thé šéléçtéd çlóçk dówñ~~~~~~~~~]</translation>
+        <translation>[Móvé thé šéléçtéd çlóçk dówñ~~~~~~ ~~~]</translation>
     </message>
     <message>
         <source>CLK Sync Edge</source>
@@ -2531,7 +2375,7 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     </message>
     <message>
         <source>Close and Graph Clocks</source>
-        <translation>[Çlóšé áñd Gráph Çlóçkš~~~~~~~]</translation>
+        <translation>[Çlóšé áñd Gráph Çlóçkš~~~~~~ ~]</translation>
     </message>
     <message>
         <source>&amp;Ok</source>
@@ -2598,7 +2442,7 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     </message>
     <message>
         <source>Use asynchronous delay</source>
-        <translation>[Úšé ášýñçhróñóúš déláý~~~~~~~]</translation>
+        <translation>[Úšé ášýñçhróñóúš déláý~~~~~~ ~]</translation>
     </message>
     <message>
         <source>Use synchronous delay</source>
@@ -2639,31 +2483,31 @@ Préšš "Çálçúláté Ñów" tó çálçúláté áñd šávé, "Çáñçél
     <message>
         <source>Implements a combintorial model where the output voltage changes in response
 to the input voltage(s) change after a propagation delay.</source>
-        <translation>[Ímpléméñtš á çómbíñtóríál módél whéré thé óútpút vóltágé çháñgéš íñ réšpóñšé~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
-tó thé íñpút vóltágé(š) çháñgé áftér á própágátíóñ déláý.~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Ímpléméñtš á çómbíñtóríál módél whéré thé óútpút vóltágé çháñgéš íñ réšpóñšé~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~
+tó thé íñpút vóltágé(š) çháñgé áftér á própágátíóñ déláý.~~~~~~ ~~~~~~ ~~~~~~ ~~~]</translation>
     </message>
     <message>
         <source>In response to an input voltage change, the output voltage
 changes after a designated number of clock cycles.</source>
-        <translation>[Íñ réšpóñšé tó áñ íñpút vóltágé çháñgé, thé óútpút vóltágé~~~~~~~~~~~~~~~~~~~~~~~
-çháñgéš áftér á déšígñátéd ñúmbér óf çlóçk çýçléš.~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Íñ réšpóñšé tó áñ íñpút vóltágé çháñgé, thé óútpút vóltágé~~~~~~ ~~~~~~ ~~~~~~ ~~~~~
+çháñgéš áftér á déšígñátéd ñúmbér óf çlóçk çýçléš.~~~~~~ ~~~~~~ ~~~~~~]</translation>
     </message>
     <message>
         <source>The full 32 bit signed data is output.</source>
-        <translation>[Thé fúll 32 bít šígñéd dátá íš óútpút.~~~~~~~~~~~~~]</translation>
+        <translation>[Thé fúll 32 bít šígñéd dátá íš óútpút.~~~~~~ ~~~~~~ ~]</translation>
     </message>
     <message>
         <source>The output is limited to a Signed or Unsigned number
 with a designated number of bits.</source>
-        <translation>[Thé óútpút íš límítéd tó á Šígñéd ór Úñšígñéd ñúmbér~~~~~~~~~~~~~~~~~~~~~
-wíth á déšígñátéd ñúmbér óf bítš.~~~~~~~~~~~]</translation>
+        <translation>[Thé óútpút íš límítéd tó á Šígñéd ór Úñšígñéd ñúmbér~~~~~~ ~~~~~~ ~~~~~~ ~~~
+wíth á déšígñátéd ñúmbér óf bítš.~~~~~~ ~~~~~]</translation>
     </message>
 </context>
 <context>
     <name>LoopForgeEditPWMDialog</name>
     <message>
         <source>Edit Device Parameters</source>
-        <translation>[Édít Dévíçé Párámétérš~~~~~~~]</translation>
+        <translation>[Édít Dévíçé Párámétérš~~~~~~ ~]</translation>
     </message>
     <message>
         <source>title</source>
@@ -2698,7 +2542,7 @@ wíth á déšígñátéd ñúmbér óf bítš.~~~~~~~~~~~]</translation>
     <name>LoopForgeEditProbeDialog</name>
     <message>
         <source>Edit LoopForge Bus Probe</source>
-        <translation>[Édít LóópFórgé Búš Próbé~~~~~~~~]</translation>
+        <translation>[Édít LóópFórgé Búš Próbé~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Edit &lt;i&gt;LoopForge&lt;/i&gt; Probe</source>
@@ -2726,7 +2570,7 @@ wíth á déšígñátéd ñúmbér óf bítš.~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Axis type for analog waveform</source>
-        <translation>[Áxíš týpé fór áñálóg wávéfórm~~~~~~~~~~]</translation>
+        <translation>[Áxíš týpé fór áñálóg wávéfórm~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>Auto select</source>
@@ -2778,7 +2622,7 @@ wíth á déšígñátéd ñúmbér óf bítš.~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Arbitrary string to specify order</source>
-        <translation>[Árbítrárý štríñg tó špéçífý órdér~~~~~~~~~~~]</translation>
+        <translation>[Árbítrárý štríñg tó špéçífý órdér~~~~~~ ~~~~~]</translation>
     </message>
     <message>
         <source>Colour</source>
@@ -2802,11 +2646,11 @@ wíth á déšígñátéd ñúmbér óf bítš.~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Integer sampled data type</source>
-        <translation>[Íñtégér šámpléd dátá týpé~~~~~~~~]</translation>
+        <translation>[Íñtégér šámpléd dátá týpé~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Floating point sampled data type</source>
-        <translation>[Flóátíñg póíñt šámpléd dátá týpé~~~~~~~~~~~]</translation>
+        <translation>[Flóátíñg póíñt šámpléd dátá týpé~~~~~~ ~~~~~]</translation>
     </message>
     <message>
         <source>Help</source>
@@ -2830,24 +2674,24 @@ wíth á déšígñátéd ñúmbér óf bítš.~~~~~~~~~~~]</translation>
     </message>
     <message>
         <source>Multiple curves selected</source>
-        <translation>[Múltíplé çúrvéš šéléçtéd~~~~~~~~]</translation>
+        <translation>[Múltíplé çúrvéš šéléçtéd~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>The Curve label control is disabled when editing multiple probes.
 This prevents you from accidentally renaming curves to the same name.
 To edit the Curve label, you will need to edit each probe individually.
 All other properties may be edited on this dialog.</source>
-        <translation>[Thé Çúrvé lábél çóñtról íš díšábléd whéñ édítíñg múltíplé próbéš.~~~~~~~~~~~~~~~~~~~~~~~~~~
-Thíš prévéñtš ýóú fróm áççídéñtállý réñámíñg çúrvéš tó thé šámé ñámé.~~~~~~~~~~~~~~~~~~~~~~~~~~~~
-Tó édít thé Çúrvé lábél, ýóú wíll ñééd tó édít éáçh próbé íñdívídúállý.~~~~~~~~~~~~~~~~~~~~~~~~~~~~
-Áll óthér própértíéš máý bé édítéd óñ thíš díálóg.~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thé Çúrvé lábél çóñtról íš díšábléd whéñ édítíñg múltíplé próbéš.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~
+Thíš prévéñtš ýóú fróm áççídéñtállý réñámíñg çúrvéš tó thé šámé ñámé.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~
+Tó édít thé Çúrvé lábél, ýóú wíll ñééd tó édít éáçh próbé íñdívídúállý.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~
+Áll óthér própértíéš máý bé édítéd óñ thíš díálóg.~~~~~~ ~~~~~~ ~~~~~~]</translation>
     </message>
 </context>
 <context>
     <name>ManageMeasureDialog</name>
     <message>
         <source>Manage Measurement Definitions</source>
-        <translation>[Máñágé Méášúréméñt Défíñítíóñš~~~~~~~~~~]</translation>
+        <translation>[Máñágé Méášúréméñt Défíñítíóñš~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>Select measurement</source>
@@ -2859,7 +2703,7 @@ Tó édít thé Çúrvé lábél, ýóú wíll ñééd tó édít éáçh prób�
     </message>
     <message>
         <source>Create new measurement</source>
-        <translation>[Çréáté ñéw méášúréméñt~~~~~~~]</translation>
+        <translation>[Çréáté ñéw méášúréméñt~~~~~~ ~]</translation>
     </message>
     <message>
         <source>Name</source>
@@ -2875,27 +2719,27 @@ Tó édít thé Çúrvé lábél, ýóú wíll ñééd tó édít éáçh prób�
     </message>
     <message>
         <source>Measurement definition</source>
-        <translation>[Méášúréméñt défíñítíóñ~~~~~~~]</translation>
+        <translation>[Méášúréméñt défíñítíóñ~~~~~~ ~]</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Label as displayed on graph&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;[Lábél áš díšpláýéd óñ gráph~~~~~~~~~~~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;[Lábél áš díšpláýéd óñ gráph~~~~~~ ~~~~~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Expression. Enter an expression that&lt;br/&gt;returns the measurement value.&lt;br/&gt;Use 'data' to access the curve's data.&lt;br/&gt;E.g. to get the mean squared use:&lt;br/&gt;&lt;br/&gt;Mean1(data*data).&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;[Éxpréššíóñ. Éñtér áñ éxpréššíóñ thát~~~~~~~~~~~~~~&lt;br/&gt;rétúrñš thé méášúréméñt válúé.~~~~~~~~~~~~&lt;br/&gt;Úšé 'dátá' tó áççéšš thé çúrvé'š dátá.~~~~~~~~~~~~~~~&lt;br/&gt;É.g. tó gét thé méáñ šqúáréd úšé:~~~~~~~~~~~~~&lt;br/&gt;&lt;br/&gt;Méáñ1(dátá*dátá).~~~~~~~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;[Éxpréššíóñ. Éñtér áñ éxpréššíóñ thát~~~~~~ ~~~~~~ ~~&lt;br/&gt;rétúrñš thé méášúréméñt válúé.~~~~~~ ~~~~~~&lt;br/&gt;Úšé 'dátá' tó áççéšš thé çúrvé'š dátá.~~~~~~ ~~~~~~ ~~~&lt;br/&gt;É.g. tó gét thé méáñ šqúáréd úšé:~~~~~~ ~~~~~~ ~&lt;br/&gt;&lt;br/&gt;Méáñ1(dátá*dátá).~~~~~~ ~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Format template. Leave blank&lt;br/&gt;to use default&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;[Fórmát témpláté. Léávé bláñk~~~~~~~~~~~&lt;br/&gt;tó úšé défáúlt~~~~~~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;[Fórmát témpláté. Léávé bláñk~~~~~~ ~~~~~&lt;br/&gt;tó úšé défáúlt~~~~~~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Full description. \n siginifies new line&lt;br/&gt;(Displayed below list box. Optional)&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;[Fúll déšçríptíóñ. \n šígíñífíéš ñéw líñé~~~~~~~~~~~~~~~&lt;br/&gt;(Díšpláýéd bélów líšt bóx. Óptíóñál)~~~~~~~~~~~~~~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;[Fúll déšçríptíóñ. \n šígíñífíéš ñéw líñé~~~~~~ ~~~~~~ ~~~&lt;br/&gt;(Díšpláýéd bélów líšt bóx. Óptíóñál)~~~~~~ ~~~~~~ ~~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Requires cursors to be switched on&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;[Réqúíréš çúršórš tó bé šwítçhéd óñ~~~~~~~~~~~~~~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;[Réqúíréš çúršórš tó bé šwítçhéd óñ~~~~~~ ~~~~~~ ~~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>&amp;Ok</source>
@@ -2915,7 +2759,7 @@ Tó édít thé Çúrvé lábél, ýóú wíll ñééd tó édít éáçh prób�
     </message>
     <message>
         <source>Restore Factory Definition</source>
-        <translation>[Réštóré Fáçtórý Défíñítíóñ~~~~~~~~]</translation>
+        <translation>[Réštóré Fáçtórý Défíñítíóñ~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Duplicate Entry</source>
@@ -2924,7 +2768,7 @@ Tó édít thé Çúrvé lábél, ýóú wíll ñééd tó édít éáçh prób�
     <message>
         <source>The name you have entered is already used
 Choose another name</source>
-        <translation>[Thé ñámé ýóú hávé éñtéréd íš álréádý úšéd~~~~~~~~~~~~~~~~
+        <translation>[Thé ñámé ýóú hávé éñtéréd íš álréádý úšéd~~~~~~ ~~~~~~ ~~~~
 Çhóóšé áñóthér ñámé~~~~~~]</translation>
     </message>
 </context>
@@ -2936,7 +2780,7 @@ Choose another name</source>
     </message>
     <message>
         <source>Pre-defined Measurement</source>
-        <translation>[Pré-défíñéd Méášúréméñt~~~~~~~]</translation>
+        <translation>[Pré-défíñéd Méášúréméñt~~~~~~ ~]</translation>
     </message>
     <message>
         <source>Pre-process</source>
@@ -2964,11 +2808,11 @@ Choose another name</source>
     </message>
     <message>
         <source>Measurement definition</source>
-        <translation>[Méášúréméñt défíñítíóñ~~~~~~~]</translation>
+        <translation>[Méášúréméñt défíñítíóñ~~~~~~ ~]</translation>
     </message>
     <message>
         <source>Label as displayed on graph</source>
-        <translation>[Lábél áš díšpláýéd óñ gráph~~~~~~~~~]</translation>
+        <translation>[Lábél áš díšpláýéd óñ gráph~~~~~~ ~~~]</translation>
     </message>
     <message>
         <source>Expression. Enter an expression that
@@ -2977,22 +2821,22 @@ Use 'data' to access the curve's data.
 E.g. to get the mean squared use:
 
 Mean1(data*data).</source>
-        <translation>[Éxpréššíóñ. Éñtér áñ éxpréššíóñ thát~~~~~~~~~~~~~~
-rétúrñš thé méášúréméñt válúé.~~~~~~~~~~~~
-Úšé 'dátá' tó áççéšš thé çúrvé'š dátá.~~~~~~~~~~~~~~~~ 
-É.g. tó gét thé méáñ šqúáréd úšé:~~~~~~~~~~~~~
+        <translation>[Éxpréššíóñ. Éñtér áñ éxpréššíóñ thát~~~~~~ ~~~~~~ ~~
+rétúrñš thé méášúréméñt válúé.~~~~~~ ~~~~~~
+Úšé 'dátá' tó áççéšš thé çúrvé'š dátá.~~~~~~ ~~~~~~ ~~~~ 
+É.g. tó gét thé méáñ šqúáréd úšé:~~~~~~ ~~~~~~ ~
 
 Méáñ1(dátá*dátá).~~~~~]</translation>
     </message>
     <message>
         <source>Format template. Leave blank
 to use default</source>
-        <translation>[Fórmát témpláté. Léávé bláñk~~~~~~~~~~~
+        <translation>[Fórmát témpláté. Léávé bláñk~~~~~~ ~~~~~
 tó úšé défáúlt~~~~]</translation>
     </message>
     <message>
         <source>Save definition to pre-defined measurements</source>
-        <translation>[Šávé défíñítíóñ tó pré-défíñéd méášúréméñtš~~~~~~~~~~~~~~~]</translation>
+        <translation>[Šávé défíñítíóñ tó pré-défíñéd méášúréméñtš~~~~~~ ~~~~~~ ~~~]</translation>
     </message>
     <message>
         <source>Save definition</source>
@@ -3001,14 +2845,14 @@ tó úšé défáúlt~~~~]</translation>
     <message>
         <source>Short description
 (Displayed in list box. Optional)</source>
-        <translation>[Šhórt déšçríptíóñ~~~~~~~
-(Díšpláýéd íñ líšt bóx. Óptíóñál)~~~~~~~~~~~]</translation>
+        <translation>[Šhórt déšçríptíóñ~~~~~~ ~
+(Díšpláýéd íñ líšt bóx. Óptíóñál)~~~~~~ ~~~~~]</translation>
     </message>
     <message>
         <source>Full description
 (Displayed below list box. Optional)</source>
         <translation>[Fúll déšçríptíóñ~~~~~~
-(Díšpláýéd bélów líšt bóx. Óptíóñál)~~~~~~~~~~~~]</translation>
+(Díšpláýéd bélów líšt bóx. Óptíóñál)~~~~~~ ~~~~~~]</translation>
     </message>
     <message>
         <source>&amp;Ok</source>
@@ -3029,7 +2873,7 @@ tó úšé défáúlt~~~~]</translation>
     <message>
         <source>Some items are disabled as they require cursors to be switched on
 </source>
-        <translation>[Šómé ítémš áré díšábléd áš théý réqúíré çúršórš tó bé šwítçhéd óñ~~~~~~~~~~~~~~~~~~~~~~~~~~]
+        <translation>[Šómé ítémš áré díšábléd áš théý réqúíré çúršórš tó bé šwítçhéd óñ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~]
 </translation>
     </message>
 </context>
@@ -3061,7 +2905,7 @@ tó úšé défáúlt~~~~]</translation>
     </message>
     <message>
         <source>Model extraction test conditions</source>
-        <translation>[Módél éxtráçtíóñ téšt çóñdítíóñš~~~~~~~~~~~]</translation>
+        <translation>[Módél éxtráçtíóñ téšt çóñdítíóñš~~~~~~ ~~~~~]</translation>
     </message>
     <message>
         <source>SPICE Model</source>
@@ -3073,11 +2917,11 @@ tó úšé défáúlt~~~~]</translation>
     </message>
     <message>
         <source>Selects a new device from a list of installed SPICE models.</source>
-        <translation>[Šéléçtš á ñéw dévíçé fróm á líšt óf íñštálléd ŠPÍÇÉ módélš.~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Šéléçtš á ñéw dévíçé fróm á líšt óf íñštálléd ŠPÍÇÉ módélš.~~~~~~ ~~~~~~ ~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>User-defined parameters</source>
-        <translation>[Úšér-défíñéd párámétérš~~~~~~~]</translation>
+        <translation>[Úšér-défíñéd párámétérš~~~~~~ ~]</translation>
     </message>
     <message>
         <source>Label</source>
@@ -3110,18 +2954,18 @@ tó úšé défáúlt~~~~]</translation>
     <message>
         <source>"Extracted" creates a BRELVON model from the SPICE model.
 "User-defined" creates a model based on user input.</source>
-        <translation>["Éxtráçtéd" çréátéš á BRÉLVÓÑ módél fróm thé ŠPÍÇÉ módél.~~~~~~~~~~~~~~~~~~~~~~~
-"Úšér-défíñéd" çréátéš á módél bášéd óñ úšér íñpút.~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>["Éxtráçtéd" çréátéš á BRÉLVÓÑ módél fróm thé ŠPÍÇÉ módél.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~
+"Úšér-défíñéd" çréátéš á módél bášéd óñ úšér íñpút.~~~~~~ ~~~~~~ ~~~~~~]</translation>
     </message>
     <message>
         <source>&lt;p&gt;There are three ways to choose the SPICE model:&lt;/p&gt;&lt;p&gt;&lt;img src=":/combo_box_mouse_cursor_transparent.png"&gt; pick a recently used model from the list,&lt;/p&gt;&lt;p&gt;&lt;img src=":/select_button_mouse_cursor_transparent.png"&gt; press "Select..." and choose from all installed models,&lt;/p&gt;&lt;p&gt;or type the name of the model. The name is &lt;b&gt;NOT&lt;/b&gt; cap sensitive.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;[Théré áré thréé wáýš tó çhóóšé thé ŠPÍÇÉ módél:~~~~~~~~~~~~~~~~~~~&lt;/p&gt;&lt;p&gt;&lt;img src=":/combo_box_mouse_cursor_transparent.png"&gt; píçk á réçéñtlý úšéd módél fróm thé líšt,~~~~~~~~~~~~~~~~~&lt;/p&gt;&lt;p&gt;&lt;img src=":/select_button_mouse_cursor_transparent.png"&gt; préšš "Šéléçt..." áñd çhóóšé fróm áll íñštálléd módélš,~~~~~~~~~~~~~~~~~~~~~~&lt;/p&gt;&lt;p&gt;ór týpé thé ñámé óf thé módél. Thé ñámé íš &lt;b&gt;ÑÓT&lt;/b&gt; çáp šéñšítívé.~~~~~~~~~~~~~~~~~~~~~~~~]&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;[Théré áré thréé wáýš tó çhóóšé thé ŠPÍÇÉ módél:~~~~~~ ~~~~~~ ~~~~~~ ~&lt;/p&gt;&lt;p&gt;&lt;img src=":/combo_box_mouse_cursor_transparent.png"&gt; píçk á réçéñtlý úšéd módél fróm thé líšt,~~~~~~ ~~~~~~ ~~~~~&lt;/p&gt;&lt;p&gt;&lt;img src=":/select_button_mouse_cursor_transparent.png"&gt; préšš "Šéléçt..." áñd çhóóšé fróm áll íñštálléd módélš,~~~~~~ ~~~~~~ ~~~~~~ ~~~~&lt;/p&gt;&lt;p&gt;ór týpé thé ñámé óf thé módél. Thé ñámé íš &lt;b&gt;ÑÓT&lt;/b&gt; çáp šéñšítívé.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~]&lt;/p&gt;</translation>
     </message>
     <message>
         <source>The label may hold only letters, digits and the underscore. It describes the device
 and isn't used in simulation.</source>
-        <translation>[Thé lábél máý hóld óñlý léttérš, dígítš áñd thé úñdéršçóré. Ít déšçríbéš thé dévíçé~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
-áñd íšñ't úšéd íñ šímúlátíóñ.~~~~~~~~~~]</translation>
+        <translation>[Thé lábél máý hóld óñlý léttérš, dígítš áñd thé úñdéršçóré. Ít déšçríbéš thé dévíçé~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~
+áñd íšñ't úšéd íñ šímúlátíóñ.~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>Single</source>
@@ -3149,17 +2993,17 @@ and isn't used in simulation.</source>
     </message>
     <message>
         <source>Model translation test conditions</source>
-        <translation>[Módél tráñšlátíóñ téšt çóñdítíóñš~~~~~~~~~~~]</translation>
+        <translation>[Módél tráñšlátíóñ téšt çóñdítíóñš~~~~~~ ~~~~~]</translation>
     </message>
     <message>
         <source>"Translated" creates a BRELVON model from the SPICE model.
 "User-defined" creates a model based on user input.</source>
-        <translation>["Tráñšlátéd" çréátéš á BRÉLVÓÑ módél fróm thé ŠPÍÇÉ módél.~~~~~~~~~~~~~~~~~~~~~~~
-"Úšér-défíñéd" çréátéš á módél bášéd óñ úšér íñpút.~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>["Tráñšlátéd" çréátéš á BRÉLVÓÑ módél fróm thé ŠPÍÇÉ módél.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~
+"Úšér-défíñéd" çréátéš á módél bášéd óñ úšér íñpút.~~~~~~ ~~~~~~ ~~~~~~]</translation>
     </message>
     <message>
         <source>Choose the SPICE model to translate: pick it from the list, press "Select...", or type its name.</source>
-        <translation>[Çhóóšé thé ŠPÍÇÉ módél tó tráñšláté: píçk ít fróm thé líšt, préšš "Šéléçt...", ór týpé ítš ñámé.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Çhóóšé thé ŠPÍÇÉ módél tó tráñšláté: píçk ít fróm thé líšt, préšš "Šéléçt...", ór týpé ítš ñámé.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~]</translation>
     </message>
     <message>
         <source>Ok</source>
@@ -3195,15 +3039,15 @@ and isn't used in simulation.</source>
     </message>
     <message>
         <source>Need User label for this device!</source>
-        <translation>[Ñééd Úšér lábél fór thíš dévíçé!~~~~~~~~~~~]</translation>
+        <translation>[Ñééd Úšér lábél fór thíš dévíçé!~~~~~~ ~~~~~]</translation>
     </message>
     <message>
         <source>All User-defined models must have a label with at least one character.
 
 Valid characters include A-Z, a-z, 0-9, _ and -</source>
-        <translation>[Áll Úšér-défíñéd módélš múšt hávé á lábél wíth át léášt óñé çháráçtér.~~~~~~~~~~~~~~~~~~~~~~~~~~~~
+        <translation>[Áll Úšér-défíñéd módélš múšt hávé á lábél wíth át léášt óñé çháráçtér.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~
 
-Válíd çháráçtérš íñçlúdé Á-Z, á-z, 0-9, _ áñd -~~~~~~~~~~~~~~~~~]</translation>
+Válíd çháráçtérš íñçlúdé Á-Z, á-z, 0-9, _ áñd -~~~~~~ ~~~~~~ ~~~~~]</translation>
     </message>
     <message>
         <source>No Model selected</source>
@@ -3213,13 +3057,13 @@ Válíd çháráçtérš íñçlúdé Á-Z, á-z, 0-9, _ áñd -~~~~~~~~~~~~~~~~
         <source>The "SPICE Model" selection box is empty.
 
 Please select a model using the "Select..." button to continue.</source>
-        <translation>[Thé "ŠPÍÇÉ Módél" šéléçtíóñ bóx íš émptý.~~~~~~~~~~~~~~~~
+        <translation>[Thé "ŠPÍÇÉ Módél" šéléçtíóñ bóx íš émptý.~~~~~~ ~~~~~~ ~~~~
 
-Pléášé šéléçt á módél úšíñg thé "Šéléçt..." búttóñ tó çóñtíñúé.~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+Pléášé šéléçt á módél úšíñg thé "Šéléçt..." búttóñ tó çóñtíñúé.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~]</translation>
     </message>
     <message>
         <source>Model %1 not found in libraries</source>
-        <translation>[Módél %1 ñót fóúñd íñ líbráríéš~~~~~~~~~~]</translation>
+        <translation>[Módél %1 ñót fóúñd íñ líbráríéš~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>The model :
@@ -3235,11 +3079,11 @@ the model file into the Vantrell/BRELVON Command Shell.</source>
 
 %1
 
-wášñ't fóúñd íñ áñý íñštálléd líbráríéš. Tó éxtráçt á BRÉLVÓÑ módél,~~~~~~~~~~~~~~~~~~~~~~~~~~~
-thé ŠPÍÇÉ módél múšt fíršt bé íñštálléd íñ thé líbrárý šýštém.~~~~~~~~~~~~~~~~~~~~~~~~~
+wášñ't fóúñd íñ áñý íñštálléd líbráríéš. Tó éxtráçt á BRÉLVÓÑ módél,~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~
+thé ŠPÍÇÉ módél múšt fíršt bé íñštálléd íñ thé líbrárý šýštém.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~
 
-Módél fíléš çáñ bé íñštálléd íñtó thé líbrárý šýštém bý drággíñg áñd dróppíñg~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
-thé módél fílé íñtó thé Váñtréll/BRÉLVÓÑ Çómmáñd Šhéll.~~~~~~~~~~~~~~~~~~~~]</translation>
+Módél fíléš çáñ bé íñštálléd íñtó thé líbrárý šýštém bý drággíñg áñd dróppíñg~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~
+thé módél fílé íñtó thé Váñtréll/BRÉLVÓÑ Çómmáñd Šhéll.~~~~~~ ~~~~~~ ~~~~~~ ~~]</translation>
     </message>
 </context>
 <context>
@@ -3254,7 +3098,7 @@ thé módél fílé íñtó thé Váñtréll/BRÉLVÓÑ Çómmáñd Šhéll.~~~~
     </message>
     <message>
         <source>Installed SPICE models</source>
-        <translation>[Íñštálléd ŠPÍÇÉ módélš~~~~~~~]</translation>
+        <translation>[Íñštálléd ŠPÍÇÉ módélš~~~~~~ ~]</translation>
     </message>
     <message>
         <source>Help</source>
@@ -3284,38 +3128,38 @@ thé módél fílé íñtó thé Váñtréll/BRÉLVÓÑ Çómmáñd Šhéll.~~~~
         <source>No device was selected.
 Please select a device from the list,
 and press Ok to continue.</source>
-        <translation>[Ñó dévíçé wáš šéléçtéd.~~~~~~~~~
-Pléášé šéléçt á dévíçé fróm thé líšt,~~~~~~~~~~~~~~~
-áñd préšš Ók tó çóñtíñúé.~~~~~~~~]</translation>
+        <translation>[Ñó dévíçé wáš šéléçtéd.~~~~~~ ~~~
+Pléášé šéléçt á dévíçé fróm thé líšt,~~~~~~ ~~~~~~ ~~~
+áñd préšš Ók tó çóñtíñúé.~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>The search engine uses a full substring search, and the list is updated as you type.
 Wildcard characters (*, ?, etc.) are not used, and are interpreted literally.</source>
-        <translation>[Thé šéárçh éñgíñé úšéš á fúll šúbštríñg šéárçh, áñd thé líšt íš úpdátéd áš ýóú týpé.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
-Wíldçárd çháráçtérš (*, ?, étç.) áré ñót úšéd, áñd áré íñtérprétéd lítérállý.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thé šéárçh éñgíñé úšéš á fúll šúbštríñg šéárçh, áñd thé líšt íš úpdátéd áš ýóú týpé.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~
+Wíldçárd çháráçtérš (*, ?, étç.) áré ñót úšéd, áñd áré íñtérprétéd lítérállý.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~]</translation>
     </message>
     <message>
         <source>This list contains all installed SPICE models of this device type. Models are added by dragging
 and dropping the model file into the command shell. The extraction algorithms extract
 parameters from the model selected in this list.</source>
-        <translation>[Thíš líšt çóñtáíñš áll íñštálléd ŠPÍÇÉ módélš óf thíš dévíçé týpé. Módélš áré áddéd bý drággíñg~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
-áñd dróppíñg thé módél fílé íñtó thé çómmáñd šhéll. Thé éxtráçtíóñ álgóríthmš éxtráçt~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
-párámétérš fróm thé módél šéléçtéd íñ thíš líšt.~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thíš líšt çóñtáíñš áll íñštálléd ŠPÍÇÉ módélš óf thíš dévíçé týpé. Módélš áré áddéd bý drággíñg~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~
+áñd dróppíñg thé módél fílé íñtó thé çómmáñd šhéll. Thé éxtráçtíóñ álgóríthmš éxtráçt~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~
+párámétérš fróm thé módél šéléçtéd íñ thíš líšt.~~~~~~ ~~~~~~ ~~~~~]</translation>
     </message>
 </context>
 <context>
     <name>PWLDialog</name>
     <message>
         <source>Piecewise Linear Curve</source>
-        <translation>[Píéçéwíšé Líñéár Çúrvé~~~~~~~]</translation>
+        <translation>[Píéçéwíšé Líñéár Çúrvé~~~~~~ ~]</translation>
     </message>
     <message>
         <source>Point %1: "%2" is neither a number nor an expression in braces.</source>
-        <translation>[Póíñt %1: "%2" íš ñéíthér á ñúmbér ñór áñ éxpréššíóñ íñ bráçéš.~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Póíñt %1: "%2" íš ñéíthér á ñúmbér ñór áñ éxpréššíóñ íñ bráçéš.~~~~~~ ~~~~~~ ~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>Point %1: the x values must increase.</source>
-        <translation>[Póíñt %1: thé x válúéš múšt íñçréášé.~~~~~~~~~~~~]</translation>
+        <translation>[Póíñt %1: thé x válúéš múšt íñçréášé.~~~~~~ ~~~~~~]</translation>
     </message>
     <message>
         <source>Add Point</source>
@@ -3334,11 +3178,11 @@ párámétérš fróm thé módél šéléçtéd íñ thíš líšt.~~~~~~~~~~~~
     <name>ParameterisedLevel</name>
     <message>
         <source>Remove Parameterization</source>
-        <translation>[Rémóvé Párámétérízátíóñ~~~~~~~]</translation>
+        <translation>[Rémóvé Párámétérízátíóñ~~~~~~ ~]</translation>
     </message>
     <message>
         <source>Parameterize Model Level</source>
-        <translation>[Párámétérízé Módél Lévél~~~~~~~~]</translation>
+        <translation>[Párámétérízé Módél Lévél~~~~~~ ~~]</translation>
     </message>
 </context>
 <context>
@@ -3349,7 +3193,7 @@ párámétérš fróm thé módél šéléçtéd íñ thíš líšt.~~~~~~~~~~~~
     </message>
     <message>
         <source>Images (*.png *.jpg *.jpeg *.bmp);;All files (*)</source>
-        <translation>[Ímágéš (*.pñg *.jpg *.jpég *.bmp);;Áll fíléš (*)~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Ímágéš (*.pñg *.jpg *.jpég *.bmp);;Áll fíléš (*)~~~~~~ ~~~~~~ ~~~~~]</translation>
     </message>
     <message>
         <source>Graph Capture</source>
@@ -3357,14 +3201,14 @@ párámétérš fróm thé módél šéléçtéd íñ thíš líšt.~~~~~~~~~~~~
     </message>
     <message>
         <source>The file is not an image that can be read.</source>
-        <translation>[Thé fílé íš ñót áñ ímágé thát çáñ bé réád.~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thé fílé íš ñót áñ ímágé thát çáñ bé réád.~~~~~~ ~~~~~~ ~~~]</translation>
     </message>
 </context>
 <context>
     <name>RadioSelectWidgetStackDialog</name>
     <message>
         <source>Edit Device Parameters</source>
-        <translation>[Édít Dévíçé Párámétérš~~~~~~~]</translation>
+        <translation>[Édít Dévíçé Párámétérš~~~~~~ ~]</translation>
     </message>
     <message>
         <source>title</source>
@@ -3392,27 +3236,27 @@ párámétérš fróm thé módél šéléçtéd íñ thíš líšt.~~~~~~~~~~~~
     </message>
     <message>
         <source>&lt;br/&gt;&lt;nobr&gt;The Parameter value doesn't begin with an opening curly brace "{"&lt;/nobr&gt;</source>
-        <translation>&lt;br/&gt;&lt;nobr&gt;[Thé Párámétér válúé dóéšñ't bégíñ wíth áñ ópéñíñg çúrlý bráçé "{"~~~~~~~~~~~~~~~~~~~~~~~~]&lt;/nobr&gt;</translation>
+        <translation>&lt;br/&gt;&lt;nobr&gt;[Thé Párámétér válúé dóéšñ't bégíñ wíth áñ ópéñíñg çúrlý bráçé "{"~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~]&lt;/nobr&gt;</translation>
     </message>
     <message>
         <source>&lt;br/&gt;&lt;nobr&gt;The Parameter value doesn't end with a closing curly brace "}"&lt;/nobr&gt;</source>
-        <translation>&lt;br/&gt;&lt;nobr&gt;[Thé Párámétér válúé dóéšñ't éñd wíth á çlóšíñg çúrlý bráçé "}"~~~~~~~~~~~~~~~~~~~~~~~]&lt;/nobr&gt;</translation>
+        <translation>&lt;br/&gt;&lt;nobr&gt;[Thé Párámétér válúé dóéšñ't éñd wíth á çlóšíñg çúrlý bráçé "}"~~~~~~ ~~~~~~ ~~~~~~ ~~~~~]&lt;/nobr&gt;</translation>
     </message>
     <message>
         <source>&lt;br/&gt;The Parameter value contains spaces</source>
-        <translation>&lt;br/&gt;[Thé Párámétér válúé çóñtáíñš špáçéš~~~~~~~~~~~~]</translation>
+        <translation>&lt;br/&gt;[Thé Párámétér válúé çóñtáíñš špáçéš~~~~~~ ~~~~~~]</translation>
     </message>
     <message>
         <source>Error: Incorrect parameter name</source>
-        <translation>[Érrór: Íñçórréçt párámétér ñámé~~~~~~~~~~]</translation>
+        <translation>[Érrór: Íñçórréçt párámétér ñámé~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>Parameter values must meet three requirements:&lt;ol&gt;&lt;li&gt;Begin with the opening curly brace "{",&lt;/li&gt;&lt;li&gt;End with the closing curly brace "}",&lt;/li&gt;&lt;li&gt;And not contain spaces.&lt;/li&gt;&lt;/ol&gt;The errors are:</source>
-        <translation>[Párámétér válúéš múšt méét thréé réqúíréméñtš:&lt;ol&gt;&lt;li&gt;Bégíñ wíth thé ópéñíñg çúrlý bráçé "{",&lt;/li&gt;&lt;li&gt;Éñd wíth thé çlóšíñg çúrlý bráçé "}",&lt;/li&gt;&lt;li&gt;Áñd ñót çóñtáíñ špáçéš.&lt;/li&gt;&lt;/ol&gt;Thé érrórš áré:~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Párámétér válúéš múšt méét thréé réqúíréméñtš:&lt;ol&gt;&lt;li&gt;Bégíñ wíth thé ópéñíñg çúrlý bráçé "{",&lt;/li&gt;&lt;li&gt;Éñd wíth thé çlóšíñg çúrlý bráçé "}",&lt;/li&gt;&lt;li&gt;Áñd ñót çóñtáíñ špáçéš.&lt;/li&gt;&lt;/ol&gt;Thé érrórš áré:~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Remove Parameterization</source>
-        <translation>[Rémóvé Párámétérízátíóñ~~~~~~~]</translation>
+        <translation>[Rémóvé Párámétérízátíóñ~~~~~~ ~]</translation>
     </message>
     <message>
         <source>Parameterize </source>
@@ -3428,7 +3272,7 @@ párámétérš fróm thé módél šéléçtéd íñ thíš líšt.~~~~~~~~~~~~
     <message>
         <source>Save schematic to a new file without affecting displayed schematic or original file.
 </source>
-        <translation>[Šávé šçhémátíç tó á ñéw fílé wíthóút áfféçtíñg díšpláýéd šçhémátíç ór órígíñál fílé.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]
+        <translation>[Šávé šçhémátíç tó á ñéw fílé wíthóút áfféçtíñg díšpláýéd šçhémátíç ór órígíñál fílé.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~]
 </translation>
     </message>
     <message>
@@ -3441,17 +3285,17 @@ párámétérš fróm thé módél šéléçtéd íñ thíš líšt.~~~~~~~~~~~~
     </message>
     <message>
         <source>Binary format is only needed to open the schematic with an old version of the program.</source>
-        <translation>[Bíñárý fórmát íš óñlý ñéédéd tó ópéñ thé šçhémátíç wíth áñ óld véršíóñ óf thé prógrám.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Bíñárý fórmát íš óñlý ñéédéd tó ópéñ thé šçhémátíç wíth áñ óld véršíóñ óf thé prógrám.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Complete component
 including symbol</source>
-        <translation>[Çómplété çómpóñéñt~~~~~~~
+        <translation>[Çómplété çómpóñéñt~~~~~~ ~
 íñçlúdíñg šýmból~~~~]</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;body&gt;&lt;p&gt;Saves the schematic as a &lt;b&gt;component&lt;/b&gt; file: the symbol goes into the file with the schematic, so the file can be placed in another design without installing a symbol library.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;body&gt;&lt;p&gt;[Šávéš thé šçhémátíç áš á &lt;b&gt;çómpóñéñt&lt;/b&gt; fílé: thé šýmból góéš íñtó thé fílé wíth thé šçhémátíç, šó thé fílé çáñ bé pláçéd íñ áñóthér déšígñ wíthóút íñštállíñg á šýmból líbrárý.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+        <translation>&lt;html&gt;&lt;body&gt;&lt;p&gt;[Šávéš thé šçhémátíç áš á &lt;b&gt;çómpóñéñt&lt;/b&gt; fílé: thé šýmból góéš íñtó thé fílé wíth thé šçhémátíç, šó thé fílé çáñ bé pláçéd íñ áñóthér déšígñ wíthóút íñštállíñg á šýmból líbrárý.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~]&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>File</source>
@@ -3517,15 +3361,15 @@ including symbol</source>
     <name>ShuntResistanceCalculatorDialog</name>
     <message>
         <source>Calculate New Shunt Resistance Value</source>
-        <translation>[Çálçúláté Ñéw Šhúñt Réšíštáñçé Válúé~~~~~~~~~~~~]</translation>
+        <translation>[Çálçúláté Ñéw Šhúñt Réšíštáñçé Válúé~~~~~~ ~~~~~~]</translation>
     </message>
     <message>
         <source>&lt;b&gt;Shunt Resistance Calculator&lt;/b&gt;</source>
-        <translation>&lt;b&gt;[Šhúñt Réšíštáñçé Çálçúlátór~~~~~~~~~]&lt;/b&gt;</translation>
+        <translation>&lt;b&gt;[Šhúñt Réšíštáñçé Çálçúlátór~~~~~~ ~~~]&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Computes a new shunt resistance from the inductor value and the desired upper frequency limit, at which the impedance of the inductor goes from inductive to resistive. Enter the frequency limit in the Frequency box; the resistance is computed at once. Ok returns the value to the editing dialog, Cancel returns without changing it.</source>
-        <translation>[Çómpútéš á ñéw šhúñt réšíštáñçé fróm thé íñdúçtór válúé áñd thé déšíréd úppér fréqúéñçý límít, át whíçh thé ímpédáñçé óf thé íñdúçtór góéš fróm íñdúçtívé tó réšíštívé. Éñtér thé fréqúéñçý límít íñ thé Fréqúéñçý bóx; thé réšíštáñçé íš çómpútéd át óñçé. Ók rétúrñš thé válúé tó thé édítíñg díálóg, Çáñçél rétúrñš wíthóút çháñgíñg ít.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Çómpútéš á ñéw šhúñt réšíštáñçé fróm thé íñdúçtór válúé áñd thé déšíréd úppér fréqúéñçý límít, át whíçh thé ímpédáñçé óf thé íñdúçtór góéš fróm íñdúçtívé tó réšíštívé. Éñtér thé fréqúéñçý límít íñ thé Fréqúéñçý bóx; thé réšíštáñçé íš çómpútéd át óñçé. Ók rétúrñš thé válúé tó thé édítíñg díálóg, Çáñçél rétúrñš wíthóút çháñgíñg ít.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>Inductance</source>
@@ -3540,20 +3384,12 @@ including symbol</source>
         <translation>[Fréqúéñçý~~]</translation>
     </message>
     <message>
-        <source>10G</source>
-        <translation>[10G~]</translation>
-    </message>
-    <message>
         <source>Hz</source>
         <translation>[Hz~]</translation>
     </message>
     <message>
         <source>Shunt Resistance</source>
         <translation>[Šhúñt Réšíštáñçé~~~~]</translation>
-    </message>
-    <message>
-        <source>1k</source>
-        <translation>[1k~]</translation>
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Ohms&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
@@ -3595,7 +3431,7 @@ including symbol</source>
     <name>TabValueDialog</name>
     <message>
         <source>Edit Device Parameters</source>
-        <translation>[Édít Dévíçé Párámétérš~~~~~~~]</translation>
+        <translation>[Édít Dévíçé Párámétérš~~~~~~ ~]</translation>
     </message>
     <message>
         <source>title</source>
@@ -3631,14 +3467,6 @@ including symbol</source>
     <message>
         <source>message</source>
         <translation>[méššágé~]</translation>
-    </message>
-    <message>
-        <source>1</source>
-        <translation>[1~]</translation>
-    </message>
-    <message>
-        <source>2</source>
-        <translation>[2~]</translation>
     </message>
     <message>
         <source>Add &amp;Row</source>
@@ -3686,16 +3514,16 @@ including symbol</source>
     <message>
         <source>Wheel: zoom about the mouse (Shift: x only, Ctrl: y only). Drag: pan, or move a cursor.
 + and -: zoom. Arrow keys: pan. Home, R or a double click: back to the axes as given.</source>
-        <translation>[Whéél: zóóm ábóút thé móúšé (Šhíft: x óñlý, Çtrl: ý óñlý). Drág: páñ, ór móvé á çúršór.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
-+ áñd -: zóóm. Árrów kéýš: páñ. Hómé, R ór á dóúblé çlíçk: báçk tó thé áxéš áš gívéñ.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Whéél: zóóm ábóút thé móúšé (Šhíft: x óñlý, Çtrl: ý óñlý). Drág: páñ, ór móvé á çúršór.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~
++ áñd -: zóóm. Árrów kéýš: páñ. Hómé, R ór á dóúblé çlíçk: báçk tó thé áxéš áš gívéñ.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Bode plot: gain and scaled phase, log frequency axis</source>
-        <translation>[Bódé plót: gáíñ áñd šçáléd phášé, lóg fréqúéñçý áxíš~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Bódé plót: gáíñ áñd šçáléd phášé, lóg fréqúéñçý áxíš~~~~~~ ~~~~~~ ~~~~~~ ~]</translation>
     </message>
     <message>
         <source>Time domain: 200,000 points of a noisy damped ringing</source>
-        <translation>[Tímé dómáíñ: 200,000 póíñtš óf á ñóíšý dámpéd ríñgíñg~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Tímé dómáíñ: 200,000 póíñtš óf á ñóíšý dámpéd ríñgíñg~~~~~~ ~~~~~~ ~~~~~~ ~]</translation>
     </message>
     <message>
         <source>Drag the cursors.</source>
@@ -3719,18 +3547,18 @@ including symbol</source>
     </message>
     <message>
         <source>t1 = %1 ms, t2 = %2 ms, t2 - t1 = %3 ms</source>
-        <translation>[t1 = %1 mš, t2 = %2 mš, t2 - t1 = %3 mš~~~~~~~~~~~]</translation>
+        <translation>[t1 = %1 mš, t2 = %2 mš, t2 - t1 = %3 mš~~~~~~ ~~~~~]</translation>
     </message>
 </context>
 <context>
     <name>TwoFileSelectionDialog</name>
     <message>
         <source>Two File Selection Dialog</source>
-        <translation>[Twó Fílé Šéléçtíóñ Díálóg~~~~~~~~]</translation>
+        <translation>[Twó Fílé Šéléçtíóñ Díálóg~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Select the files for this tool.</source>
-        <translation>[Šéléçt thé fíléš fór thíš tóól.~~~~~~~~~~]</translation>
+        <translation>[Šéléçt thé fíléš fór thíš tóól.~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>Description</source>
@@ -3738,7 +3566,7 @@ including symbol</source>
     </message>
     <message>
         <source>Description of the tool</source>
-        <translation>[Déšçríptíóñ óf thé tóól~~~~~~~]</translation>
+        <translation>[Déšçríptíóñ óf thé tóól~~~~~~ ~]</translation>
     </message>
     <message>
         <source>Input file</source>
@@ -3746,7 +3574,7 @@ including symbol</source>
     </message>
     <message>
         <source>Choose the file to read.</source>
-        <translation>[Çhóóšé thé fílé tó réád.~~~~~~~~]</translation>
+        <translation>[Çhóóšé thé fílé tó réád.~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Select...</source>
@@ -3758,19 +3586,19 @@ including symbol</source>
     </message>
     <message>
         <source>Choose the file to write.</source>
-        <translation>[Çhóóšé thé fílé tó wríté.~~~~~~~~]</translation>
+        <translation>[Çhóóšé thé fílé tó wríté.~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Open output file when complete?</source>
-        <translation>[Ópéñ óútpút fílé whéñ çómplété?~~~~~~~~~~]</translation>
+        <translation>[Ópéñ óútpút fílé whéñ çómplété?~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>File description (optional)</source>
-        <translation>[Fílé déšçríptíóñ (óptíóñál)~~~~~~~~~]</translation>
+        <translation>[Fílé déšçríptíóñ (óptíóñál)~~~~~~ ~~~]</translation>
     </message>
     <message>
         <source>A short description stored in the output file.</source>
-        <translation>[Á šhórt déšçríptíóñ štóréd íñ thé óútpút fílé.~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Á šhórt déšçríptíóñ štóréd íñ thé óútpút fílé.~~~~~~ ~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>Characters left: %1</source>
@@ -3806,46 +3634,46 @@ including symbol</source>
     </message>
     <message>
         <source>Select Output File Name</source>
-        <translation>[Šéléçt Óútpút Fílé Ñámé~~~~~~~]</translation>
+        <translation>[Šéléçt Óútpút Fílé Ñámé~~~~~~ ~]</translation>
     </message>
     <message>
         <source>Select Input File Name</source>
-        <translation>[Šéléçt Íñpút Fílé Ñámé~~~~~~~]</translation>
+        <translation>[Šéléçt Íñpút Fílé Ñámé~~~~~~ ~]</translation>
     </message>
     <message>
         <source>Warning: Greater than 32 character description</source>
-        <translation>[Wárñíñg: Gréátér tháñ 32 çháráçtér déšçríptíóñ~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Wárñíñg: Gréátér tháñ 32 çháráçtér déšçríptíóñ~~~~~~ ~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>The description must be less than 32 characters</source>
-        <translation>[Thé déšçríptíóñ múšt bé léšš tháñ 32 çháráçtérš~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thé déšçríptíóñ múšt bé léšš tháñ 32 çháráçtérš~~~~~~ ~~~~~~ ~~~~~]</translation>
     </message>
     <message>
         <source>Error: Input file doesn't exist</source>
-        <translation>[Érrór: Íñpút fílé dóéšñ't éxíšt~~~~~~~~~~]</translation>
+        <translation>[Érrór: Íñpút fílé dóéšñ't éxíšt~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>The input file doesn't exist on disk. Check the path and/or click on the &lt;b&gt;Select...&lt;/b&gt; button to locate the input file.</source>
-        <translation>[Thé íñpút fílé dóéšñ't éxíšt óñ díšk. Çhéçk thé páth áñd/ór çlíçk óñ thé &lt;b&gt;Šéléçt...&lt;/b&gt; búttóñ tó lóçáté thé íñpút fílé.~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thé íñpút fílé dóéšñ't éxíšt óñ díšk. Çhéçk thé páth áñd/ór çlíçk óñ thé &lt;b&gt;Šéléçt...&lt;/b&gt; búttóñ tó lóçáté thé íñpút fílé.~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~~~~~ ~~]</translation>
     </message>
 </context>
 <context>
     <name>VtDesignerPlugin</name>
     <message>
         <source>Number entry with steps, kept as text</source>
-        <translation>[Ñúmbér éñtrý wíth štépš, képt áš téxt~~~~~~~~~~~~~]</translation>
+        <translation>[Ñúmbér éñtrý wíth štépš, képt áš téxt~~~~~~ ~~~~~~ ~]</translation>
     </message>
     <message>
         <source>Line of text bound to an element</source>
-        <translation>[Líñé óf téxt bóúñd tó áñ éléméñt~~~~~~~~~~~]</translation>
+        <translation>[Líñé óf téxt bóúñd tó áñ éléméñt~~~~~~ ~~~~~]</translation>
     </message>
     <message>
         <source>Plain text bound to an element</source>
-        <translation>[Pláíñ téxt bóúñd tó áñ éléméñt~~~~~~~~~~]</translation>
+        <translation>[Pláíñ téxt bóúñd tó áñ éléméñt~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>Text taken from the call</source>
-        <translation>[Téxt tákéñ fróm thé çáll~~~~~~~~]</translation>
+        <translation>[Téxt tákéñ fróm thé çáll~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Check box, 1 or 0</source>
@@ -3853,19 +3681,19 @@ including symbol</source>
     </message>
     <message>
         <source>Checkable group, 1 or 0</source>
-        <translation>[Çhéçkáblé gróúp, 1 ór 0~~~~~~~]</translation>
+        <translation>[Çhéçkáblé gróúp, 1 ór 0~~~~~~ ~]</translation>
     </message>
     <message>
         <source>Radio buttons; the selected id</source>
-        <translation>[Rádíó búttóñš; thé šéléçtéd íd~~~~~~~~~~]</translation>
+        <translation>[Rádíó búttóñš; thé šéléçtéd íd~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>Radio button bound to an element</source>
-        <translation>[Rádíó búttóñ bóúñd tó áñ éléméñt~~~~~~~~~~~]</translation>
+        <translation>[Rádíó búttóñ bóúñd tó áñ éléméñt~~~~~~ ~~~~~]</translation>
     </message>
     <message>
         <source>Choice from items separated by |</source>
-        <translation>[Çhóíçé fróm ítémš šépárátéd bý |~~~~~~~~~~~]</translation>
+        <translation>[Çhóíçé fróm ítémš šépárátéd bý |~~~~~~ ~~~~~]</translation>
     </message>
     <message>
         <source>List with selection</source>
@@ -3873,7 +3701,7 @@ including symbol</source>
     </message>
     <message>
         <source>Button with an action text</source>
-        <translation>[Búttóñ wíth áñ áçtíóñ téxt~~~~~~~~]</translation>
+        <translation>[Búttóñ wíth áñ áçtíóñ téxt~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Accepts the dialog</source>
@@ -3885,7 +3713,7 @@ including symbol</source>
     </message>
     <message>
         <source>Curves over linear or logarithmic axes</source>
-        <translation>[Çúrvéš óvér líñéár ór lógáríthmíç áxéš~~~~~~~~~~~~~]</translation>
+        <translation>[Çúrvéš óvér líñéár ór lógáríthmíç áxéš~~~~~~ ~~~~~~ ~]</translation>
     </message>
 </context>
 <context>
@@ -3900,7 +3728,7 @@ including symbol</source>
     </message>
     <message>
         <source>The value of the axis at this mark</source>
-        <translation>[Thé válúé óf thé áxíš át thíš márk~~~~~~~~~~~~]</translation>
+        <translation>[Thé válúé óf thé áxíš át thíš márk~~~~~~ ~~~~~~]</translation>
     </message>
     <message>
         <source>Curve point</source>
@@ -3925,27 +3753,27 @@ including symbol</source>
     <message numerus="yes">
         <source>Click points along the curve: %n marked.</source>
         <translation>
-            <numerusform>[Çlíçk póíñtš álóñg thé çúrvé: %n márkéd.~~~~~~~~~~~~~]</numerusform></translation>
+            <numerusform>[Çlíçk póíñtš álóñg thé çúrvé: %n márkéd.~~~~~~ ~~~~~~ ~]</numerusform></translation>
     </message>
     <message>
         <source>Click the point of %1 on the %2 axis.</source>
-        <translation>[Çlíçk thé póíñt óf %1 óñ thé %2 áxíš.~~~~~~~~~~~]</translation>
+        <translation>[Çlíçk thé póíñt óf %1 óñ thé %2 áxíš.~~~~~~ ~~~~~]</translation>
     </message>
     <message>
         <source>Mark X1, X2, Y1 and Y2 on the axes first.</source>
-        <translation>[Márk X1, X2, Ý1 áñd Ý2 óñ thé áxéš fíršt.~~~~~~~~~~~~~~]</translation>
+        <translation>[Márk X1, X2, Ý1 áñd Ý2 óñ thé áxéš fíršt.~~~~~~ ~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>The value of %1 is not a number.</source>
-        <translation>[Thé válúé óf %1 íš ñót á ñúmbér.~~~~~~~~~~]</translation>
+        <translation>[Thé válúé óf %1 íš ñót á ñúmbér.~~~~~~ ~~~~]</translation>
     </message>
     <message>
         <source>A logarithmic axis needs values above zero.</source>
-        <translation>[Á lógáríthmíç áxíš ñéédš válúéš ábóvé zéró.~~~~~~~~~~~~~~~]</translation>
+        <translation>[Á lógáríthmíç áxíš ñéédš válúéš ábóvé zéró.~~~~~~ ~~~~~~ ~~~]</translation>
     </message>
     <message>
         <source>The two marks of an axis must differ in place and value.</source>
-        <translation>[Thé twó márkš óf áñ áxíš múšt díffér íñ pláçé áñd válúé.~~~~~~~~~~~~~~~~~~~~]</translation>
+        <translation>[Thé twó márkš óf áñ áxíš múšt díffér íñ pláçé áñd válúé.~~~~~~ ~~~~~~ ~~~~~~ ~~]</translation>
     </message>
     <message>
         <source>Graph Capture</source>
@@ -3953,7 +3781,116 @@ including symbol</source>
     </message>
     <message>
         <source>Click at least one point on the curve.</source>
-        <translation>[Çlíçk át léášt óñé póíñt óñ thé çúrvé.~~~~~~~~~~~~~]</translation>
+        <translation>[Çlíçk át léášt óñé póíñt óñ thé çúrvé.~~~~~~ ~~~~~~ ~]</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>[ÓK~]</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>[Šávé~]</translation>
+    </message>
+    <message>
+        <source>Save All</source>
+        <translation>[Šávé Áll~]</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>[Ópéñ~]</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>[&amp;Ýéš~]</translation>
+    </message>
+    <message>
+        <source>Yes to &amp;All</source>
+        <translation>[Ýéš tó &amp;Áll~~]</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>[&amp;Ñó~]</translation>
+    </message>
+    <message>
+        <source>N&amp;o to All</source>
+        <translation>[Ñ&amp;ó tó Áll~~]</translation>
+    </message>
+    <message>
+        <source>Abort</source>
+        <translation>[Ábórt~]</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>[Rétrý~]</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>[Ígñóré~]</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>[Çlóšé~]</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>[Çáñçél~]</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>[Díšçárd~]</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>[Hélp~]</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>[Ápplý~]</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>[Réšét~]</translation>
+    </message>
+    <message>
+        <source>Restore Defaults</source>
+        <translation>[Réštóré Défáúltš~~~~]</translation>
+    </message>
+</context>
+<context>
+    <name>QGnomeTheme</name>
+    <message>
+        <source>&amp;OK</source>
+        <translation>[&amp;ÓK~]</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>[&amp;Šávé~]</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>[&amp;Çáñçél~]</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>[&amp;Çlóšé~]</translation>
+    </message>
+    <message>
+        <source>Close without Saving</source>
+        <translation>[Çlóšé wíthóút Šávíñg~~~~~~]</translation>
+    </message>
+</context>
+<context>
+    <name>QMessageBox</name>
+    <message>
+        <source>Show Details...</source>
+        <translation>[Šhów Détáílš...~~~~]</translation>
+    </message>
+    <message>
+        <source>Hide Details...</source>
+        <translation>[Hídé Détáílš...~~~~]</translation>
     </message>
 </context>
 </TS>

@@ -607,7 +607,9 @@ void DialogDriver::Private::answerMenu()
             continue;
         const QString text = plain(a->text().section(QLatin1Char('\t'), 0, 0));
         texts << text;
-        if (text != menuAction)
+        // By the text shown, or by the action's object name, which stays
+        // the same in every language.
+        if (text != menuAction && a->objectName() != menuAction)
             continue;
         if (!a->isEnabled()) {
             fail(menuStep + QStringLiteral("%1 is disabled in the context menu").arg(quoted(menuAction)));
