@@ -4,6 +4,7 @@
 // the same run, so that the ratios mean something on any machine. The
 // QCustomPlot case is there when the library was found at configure time.
 #include "hostwidgets.h"
+#include "ratioreporter.h"
 
 #include <QApplication>
 #include <QImage>
@@ -17,7 +18,6 @@
 
 #include <cmath>
 #include <cstdio>
-#include <map>
 #include <string>
 #include <vector>
 
@@ -145,33 +145,6 @@ BENCHMARK(QCustomPlotPaint)->Unit(benchmark::kMillisecond);
 BENCHMARK(PlotterPaint)->Arg(1)->Arg(0)->Unit(benchmark::kMillisecond);
 BENCHMARK(PolylineEveryPoint)->Unit(benchmark::kMillisecond)->Iterations(3);
 
-// Keeps the console output and remembers each case's CPU time: on a shared
-// machine real time also counts the waits for a core.
-class RatioReporter : public benchmark::ConsoleReporter {
-public:
-    RatioReporter() : ConsoleReporter(OO_Tabular) {}
-
-    void ReportRuns(const std::vector<Run>& runs) override
-    {
-        ConsoleReporter::ReportRuns(runs);
-        for (const Run& r : runs)
-            if (!r.error_occurred)
-                m_times[r.benchmark_name()] = r.GetAdjustedCPUTime();
-    }
-    double time(const std::string& prefix) const
-    {
-        for (const char* suffix : {"_median", "/iterations:3_median", "", "/iterations:3"}) {
-            auto it = m_times.find(prefix + suffix);
-            if (it != m_times.end())
-                return it->second;
-        }
-        return 0;
-    }
-
-private:
-    std::map<std::string, double> m_times;
-};
-
 } // namespace
 
 int main(int argc, char** argv)
@@ -182,16 +155,16 @@ int main(int argc, char** argv)
     RatioReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
 
-    const double plotter = reporter.time("PlotterPaint/1");
-    const double polyline = reporter.time("PolylineEveryPoint");
-    const double peer = reporter.time("QCustomPlotPaint");
+    const double plotter = reporter.cpuTime("PlotterPaint/1");
+    const double polyline = reporter.cpuTime("PolylineEveryPoint/iterations:3");
+    const double peer = reporter.cpuTime("QCustomPlotPaint");
     std::printf("\n%-40s %10s %s\n", "ratio", "value", "target");
     if (plotter > 0 && peer > 0)
         std::printf("%-40s %10.2f <= 1.0 %s\n", "Plotter / QCustomPlot (CPU time)", plotter / peer,
                     plotter / peer <= 1.0 ? "met" : "MISSED");
     else
         std::printf("%-40s %10s (QCustomPlot not built in)\n", "Plotter / QCustomPlot (time)", "-");
-    const double setAndPaint = reporter.time("PlotterSetAndPaint");
+    const double setAndPaint = reporter.cpuTime("PlotterSetAndPaint");
     if (setAndPaint > 0 && peer > 0)
         std::printf("%-40s %10.2f\n", "Plotter new data + paint / QCustomPlot", setAndPaint / peer);
     if (plotter > 0 && polyline > 0)
