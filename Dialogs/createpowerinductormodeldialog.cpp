@@ -3,6 +3,7 @@
 // smoothing) for the script that makes the model. The dialog computes
 // nothing about the inductor; it gathers a table and hands back a key list.
 #include "dialogcommon.h"
+#include "dialogwidgets.h"
 #include "hostsupport.h"
 #include "hostwidgets.h"
 #include "registration.h"
@@ -140,11 +141,7 @@ CreatePowerInductorModelDialog::CreatePowerInductorModelDialog(UserFunctionInter
             &CreatePowerInductorModelDialog::infinityClicked);
     connect(m_ui->cbInitialConditionEnable, &QCheckBox::clicked, this,
             &CreatePowerInductorModelDialog::initialConditionEnableClicked);
-    // The buttons of the box keep their names for scripts and tests.
-    if (QPushButton* ok = m_ui->buttonBox->button(QDialogButtonBox::Ok))
-        ok->setObjectName(QStringLiteral("okButton"));
-    if (QPushButton* cancel = m_ui->buttonBox->button(QDialogButtonBox::Cancel))
-        cancel->setObjectName(QStringLiteral("cancelButton"));
+    dialogwidgets::nameBoxButtons(m_ui->buttonBox);
 }
 
 CreatePowerInductorModelDialog::~CreatePowerInductorModelDialog() = default;

@@ -5,6 +5,7 @@
 #include "designeritems.h"
 #include "designerxml.h"
 #include "dialogcommon.h"
+#include "dialogwidgets.h"
 #include "hostsupport.h"
 #include "registration.h"
 
@@ -72,11 +73,7 @@ DialogDesigner::DialogDesigner(UserFunctionInterface* call, QWidget* parent, con
         setObjectName(QString::fromLatin1(name));
     m_ui->setupUi(this);
     setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
-    // Named so that scripts and tests can find the box's buttons.
-    if (QPushButton* ok = m_ui->buttonBox->button(QDialogButtonBox::Ok))
-        ok->setObjectName(QStringLiteral("okButton"));
-    if (QPushButton* cancel = m_ui->buttonBox->button(QDialogButtonBox::Cancel))
-        cancel->setObjectName(QStringLiteral("cancelButton"));
+    dialogwidgets::nameBoxButtons(m_ui->buttonBox);
 
     connect(m_ui->treeWidget_Layout, &QTreeWidget::customContextMenuRequested, this,
             &DialogDesigner::onTreeContextMenu);

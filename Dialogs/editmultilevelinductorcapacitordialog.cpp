@@ -4,6 +4,7 @@
 // holds the Monte Carlo tolerances. The dialog loads and collects its
 // widgets itself, in the element order of the device's values.
 #include "dialogcommon.h"
+#include "dialogwidgets.h"
 #include "hostwidgets.h"
 #include "parameterisedlevel.h"
 #include "pwltext.h"
@@ -139,10 +140,7 @@ EditMultiLevelInductorCapacitorDialog::EditMultiLevelInductorCapacitorDialog(
     for (QLabel* units : {m_ui->esr_units, m_ui->rlk_units, m_ui->esl_shunt_units,
                           m_ui->esr_units_l, m_ui->esl_shunt_units_l})
         units->setText(omega);
-    if (QPushButton* ok = m_ui->buttonBox->button(QDialogButtonBox::Ok))
-        ok->setObjectName(QStringLiteral("okButton"));
-    if (QPushButton* cancel = m_ui->buttonBox->button(QDialogButtonBox::Cancel))
-        cancel->setObjectName(QStringLiteral("cancelButton"));
+    dialogwidgets::nameBoxButtons(m_ui->buttonBox);
 
     for (int i = 0; i < 4; ++i)
         m_args[i] = dialogcommon::stringArg(call, i);

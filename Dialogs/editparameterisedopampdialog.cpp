@@ -4,6 +4,7 @@
 // BRELVON engine the model has two levels, and the level may be an
 // expression. The form's bindings load and collect the values.
 #include "dialogcommon.h"
+#include "dialogwidgets.h"
 #include "hostwidgets.h"
 #include "parameterisedlevel.h"
 #include "registration.h"
@@ -86,10 +87,7 @@ EditParameterisedOpampDialog::EditParameterisedOpampDialog(QWidget* /*parent*/, 
     for (QLabel* units : {m_ui->rin_units, m_ui->rout_units, m_ui->ro_ac_units,
                           m_ui->vantrell_rin_units, m_ui->vantrell_rout_units})
         units->setText(omega);
-    if (QPushButton* ok = m_ui->buttonBox->button(QDialogButtonBox::Ok))
-        ok->setObjectName(QStringLiteral("okButton"));
-    if (QPushButton* cancel = m_ui->buttonBox->button(QDialogButtonBox::Cancel))
-        cancel->setObjectName(QStringLiteral("cancelButton"));
+    dialogwidgets::nameBoxButtons(m_ui->buttonBox);
 
     ParameterisedLevel::Rules rules; // the text stays as it is either way
     m_level = new ParameterisedLevel(m_ui->radiogroupLevel, m_ui->groupBoxParamValue,

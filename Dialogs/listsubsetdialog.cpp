@@ -1,6 +1,7 @@
 #include "listsubsetdialog.h"
 
 #include "dialogcommon.h"
+#include "dialogwidgets.h"
 #include "registration.h"
 
 #include "ui_listsubsetdialog.h"
@@ -51,11 +52,7 @@ ListSubsetDialog::ListSubsetDialog(QWidget* parent, const char* name)
         setObjectName(QString::fromLatin1(name));
     m_ui->setupUi(this);
     setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
-    // Named so that scripts and tests can find the box's buttons.
-    if (QPushButton* ok = m_ui->buttonBox->button(QDialogButtonBox::Ok))
-        ok->setObjectName(QStringLiteral("okButton"));
-    if (QPushButton* cancel = m_ui->buttonBox->button(QDialogButtonBox::Cancel))
-        cancel->setObjectName(QStringLiteral("cancelButton"));
+    dialogwidgets::nameBoxButtons(m_ui->buttonBox);
 
     connect(m_ui->addSelectedButton, &QPushButton::clicked, this, &ListSubsetDialog::addSelected);
     connect(m_ui->addAllButton, &QPushButton::clicked, this, &ListSubsetDialog::addAll);
