@@ -9,6 +9,7 @@
 
 #include "ui_radioselectwidgetstackdialog.h"
 
+#include <QButtonGroup>
 #include <QDialog>
 #include <QGridLayout>
 #include <QIcon>
@@ -143,6 +144,10 @@ void RadioSelectWidgetStackDialog::makeSelection(const parameterpages::Parameter
 {
     const QString selected = dialogcommon::elementOr(m_args[ArgValues], 0);
     int current = 0;
+    // The buttons also join a group of their own under their page position,
+    // where code that looks a selection button up by id finds it.
+    auto* group = new QButtonGroup(this);
+    group->setObjectName(QStringLiteral("buttonGroup"));
     for (int i = 0; i < spec.tabCount(); ++i) {
         const QString title = spec.tabTitle(i);
         auto* page = new QWidget;
@@ -160,6 +165,7 @@ void RadioSelectWidgetStackDialog::makeSelection(const parameterpages::Parameter
         QString text = title;
         text.replace(QLatin1String("\\s"), QLatin1String(" "), Qt::CaseInsensitive);
         button->setText(text);
+        group->addButton(button, i);
         if (title.compare(selected, Qt::CaseInsensitive) == 0)
             current = i;
         m_ui->layoutRS->addWidget(button);
