@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QList>
@@ -17,6 +18,7 @@
 #include <QWidget>
 #include <QtTest>
 
+#include <algorithm>
 #include <functional>
 #include <string>
 #include <vector>
@@ -52,6 +54,23 @@ inline QStringList textsOf(const CallResult& result)
     return out;
 }
 
+// A field of an inspect line as a table row writes it: a list joined by
+// "|", a flag as "true" or "false", a number in decimal, null as "null".
+inline QString fieldText(const QJsonValue& v)
+{
+    if (v.isArray()) {
+        QStringList parts;
+        for (const QJsonValue& part : v.toArray())
+            parts << part.toString();
+        return parts.join(QLatin1Char('|'));
+    }
+    if (v.isBool())
+        return v.toBool() ? QStringLiteral("true") : QStringLiteral("false");
+    if (v.isDouble())
+        return QString::number(v.toDouble());
+    return v.isString() ? v.toString() : QStringLiteral("null");
+}
+
 // What one answered call gave.
 struct Answered {
     bool ok = false;           // the driver carried out every step and the call ran
@@ -76,6 +95,31 @@ struct Answered {
             if (e.value(QLatin1String("inspect")).toString(QStringLiteral("\x01")) == object)
                 found = e;
         return found;
+    }
+    // "object.field" of the last inspect line of object ("" the dialog),
+    // as fieldText writes it.
+    QString inspectedText(const QString& key) const
+    {
+        return fieldText(inspected(key.section(QLatin1Char('.'), 0, -2)).value(key.section(QLatin1Char('.'), -1)));
+    }
+    // Each message box as "title|text", in order.
+    QStringList messages() const
+    {
+        QStringList out;
+        for (const QJsonObject& e : eventsOf(QStringLiteral("messageBox"))) {
+            const QJsonObject box = e.value(QLatin1String("messageBox")).toObject();
+            out << box.value(QLatin1String("title")).toString() + QLatin1Char('|')
+                       + box.value(QLatin1String("text")).toString();
+        }
+        return out;
+    }
+    // The topic of each help request, in order.
+    QStringList helpTopics() const
+    {
+        QStringList out;
+        for (const QJsonObject& e : eventsOf(QStringLiteral("help")))
+            out << e.value(QLatin1String("help")).toVariant().toString();
+        return out;
     }
 };
 
@@ -138,6 +182,39 @@ private:
     std::function<void(QDialog*)> m_look;
     QTimer m_timer;
 };
+
+// steps with the wait for a ShownDialogProbe put in front.
+inline QByteArray probed(const QByteArray& steps)
+{
+    QByteArray rest = steps.trimmed().mid(1); // after "["
+    return "[{\"wait\": \"probed\"}" + QByteArray(rest.trimmed().startsWith(']') ? "" : ", ") + rest;
+}
+
+// steps with an inspect step for each object put in front (what the
+// dialog shows as it opens) or, with last, just before the last step
+// (what the steps made of it before the step that ends the dialog).
+enum class InspectAt { Start, BeforeLast };
+inline QByteArray withInspections(const QByteArray& steps, const QStringList& objects,
+                                  InspectAt at = InspectAt::Start)
+{
+    QJsonArray array = QJsonDocument::fromJson(steps).array();
+    const int where = at == InspectAt::Start ? 0 : std::max(0, int(array.size()) - 1);
+    for (int i = objects.size() - 1; i >= 0; --i)
+        array.insert(where, QJsonObject{{QStringLiteral("inspect"), objects[i]}});
+    return QJsonDocument(array).toJson(QJsonDocument::Compact);
+}
+
+// The objects that "object.field=value" facts name, each once, in order.
+inline QStringList objectsOf(const QStringList& facts)
+{
+    QStringList out;
+    for (const QString& fact : facts) {
+        const QString object = fact.section(QLatin1Char('='), 0, 0).section(QLatin1Char('.'), 0, -2);
+        if (!out.contains(object))
+            out << object;
+    }
+    return out;
+}
 
 // For each test's cleanup(): no dialog may outlive its test.
 inline bool noTopLevelsLeft()
