@@ -14,6 +14,7 @@
 #include <QJsonObject>
 #include <QList>
 #include <QStringList>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <QWidget>
 #include <QtTest>
@@ -123,9 +124,23 @@ struct Answered {
     }
 };
 
+// The dialog the driver is answering: the last visible top-level dialog.
+inline QDialog* shownDialog()
+{
+    QDialog* found = nullptr;
+    const QWidgetList tops = QApplication::topLevelWidgets();
+    for (QWidget* w : tops)
+        if (auto* d = qobject_cast<QDialog*>(w); d && d->isVisible())
+            found = d;
+    return found;
+}
+
 // Runs function through engine, answering its dialogs with the JSON steps.
+// look, if given, sees the dialog once, as the driver reports the first
+// inspect step (so the steps must have one); a look that never came fails
+// the call.
 inline Answered answer(vtkit::Engine& engine, const char* function, const Args& args,
-                       const QByteArray& steps)
+                       const QByteArray& steps, const std::function<void(QDialog*)>& look = {})
 {
     Answered out;
     vtkit::AnswerScript script;
@@ -134,20 +149,33 @@ inline Answered answer(vtkit::Engine& engine, const char* function, const Args& 
         out.failure = QStringLiteral("bad answer script: ") + error;
         return out;
     }
-    vtkit::DialogDriver driver(script, [&out](const QByteArray& line) {
+    bool looked = false;
+    vtkit::DialogDriver driver(script, [&](const QByteArray& line) {
         out.events << QJsonDocument::fromJson(line).object();
+        if (look && !looked && out.events.last().contains(QLatin1String("inspect"))) {
+            looked = true;
+            if (QDialog* dialog = shownDialog())
+                look(dialog);
+        }
     });
     out.result = driver.call(engine, function, args);
-    out.ok = !driver.failed() && out.result.status == CallResult::Status::Ok;
+    out.ok = !driver.failed() && out.result.status == CallResult::Status::Ok && (looked || !look);
     if (!out.ok)
-        out.failure = driver.failure() + QStringLiteral(" / call: ")
-                      + QString::fromStdString(out.result.error);
+        out.failure = (look && !looked ? QStringLiteral("the dialog was never looked at; ") : QString())
+                      + driver.failure() + QStringLiteral(" / call: ") + QString::fromStdString(out.result.error);
     return out;
 }
 
 // Loads the built module into engine, with the dialog runner of the host.
-inline bool loadModule(vtkit::Engine& engine)
+// With settings, a run by hand (CTest gives each test a directory of its
+// own) keeps away from its user's settings.
+inline bool loadModule(vtkit::Engine& engine, const QTemporaryDir* settings = nullptr)
 {
+    if (settings && qEnvironmentVariableIsEmpty("VANTRELL_CONFIG_DIR")) {
+        if (!settings->isValid())
+            return false;
+        qputenv("VANTRELL_CONFIG_DIR", settings->path().toLocal8Bit());
+    }
     std::string error;
     if (!engine.load(VT_MODULE_PATH, &error)) {
         qWarning("cannot load the module: %s", error.c_str());

@@ -110,37 +110,6 @@ private:
     QTimer m_timer;
 };
 
-QStringList messagesOf(const Answered& answered)
-{
-    QStringList out;
-    for (const QJsonObject& e : answered.eventsOf(QStringLiteral("messageBox"))) {
-        const QJsonObject box = e.value(QLatin1String("messageBox")).toObject();
-        out << box.value(QLatin1String("title")).toString() + QLatin1Char('|')
-                   + box.value(QLatin1String("text")).toString();
-    }
-    for (const QJsonObject& e : answered.eventsOf(QStringLiteral("help")))
-        out << QStringLiteral("help|") + e.value(QLatin1String("help")).toString();
-    return out;
-}
-
-// "inspect:obj.field=value": a field of the driver's inspect line for obj,
-// an array joined by "|".
-QString inspected(const Answered& answered, const QString& fact)
-{
-    const QString key = fact.mid(8).section(QLatin1Char('='), 0, 0);
-    const QJsonValue v = answered.inspected(key.section(QLatin1Char('.'), 0, -2))
-                             .value(key.section(QLatin1Char('.'), -1));
-    if (v.isArray()) {
-        QStringList parts;
-        for (const QJsonValue& part : v.toArray())
-            parts << part.toString();
-        return parts.join(QLatin1Char('|'));
-    }
-    if (v.isBool())
-        return QVariant(v.toBool()).toString();
-    return v.isNull() || v.isUndefined() ? QStringLiteral("null") : v.toVariant().toString();
-}
-
 QString setting(const QString& key)
 {
     char buffer[4096] = {};
@@ -247,12 +216,16 @@ void TestFileDesigner::check(const char* function)
     for (const QString& f : facts) {
         QString values;
         if (f.startsWith(QLatin1String("inspect:")))
-            QCOMPARE(f.mid(8).section(QLatin1Char('='), 0, 0) + QLatin1Char('=') + inspected(answered, f),
+            QCOMPARE(f.mid(8).section(QLatin1Char('='), 0, 0) + QLatin1Char('=')
+                         + answered.inspectedText(f.mid(8).section(QLatin1Char('='), 0, 0)),
                      f.mid(8));
         else
             QVERIFY2(recorder.saw(f, &values), qPrintable(f + QStringLiteral(" but saw ") + values));
     }
-    QCOMPARE(messagesOf(answered), messages);
+    QStringList seen = answered.messages();
+    for (const QString& topic : answered.helpTopics())
+        seen << QStringLiteral("help|") + topic;
+    QCOMPARE(seen, messages);
     const CallResult& r = answered.result;
     if (result == QLatin1String("<none>")) {
         QVERIFY(!r.hasResult);

@@ -73,8 +73,6 @@ QStringList driverValues(const QString& level)
             "100m", "3"};
 }
 
-using Probe = ShownDialogProbe;
-
 // "object.property" of a child ("property" of the dialog), as text;
 // "stack.page" is the object name of a stacked widget's current page.
 QString fact(QDialog* dialog, const QString& key)
@@ -169,15 +167,15 @@ void TestMultiLevel::check(const char* function)
     QFETCH(QStringList, facts);
 
     QStringList seen;
-    std::unique_ptr<Probe> probe;
+    std::unique_ptr<ShownDialogProbe> probe;
     if (!facts.isEmpty()) {
-        probe = std::make_unique<Probe>([&](QDialog* dialog) {
+        probe = std::make_unique<ShownDialogProbe>([&](QDialog* dialog) {
             for (const QString& f : qAsConst(facts)) {
                 const QString key = f.section(QLatin1Char('='), 0, 0);
                 seen << key + QLatin1Char('=') + fact(dialog, key);
             }
         });
-        steps = R"([{"wait": "probed"}, )" + steps.mid(1);
+        steps = QString::fromUtf8(probed(steps.toUtf8()));
     }
     const Answered a = answer(m_engine, function, args, steps.toUtf8());
     QVERIFY2(a.ok, qPrintable(a.failure));
@@ -189,11 +187,7 @@ void TestMultiLevel::check(const char* function)
         const QString key = e.section(QLatin1Char('='), 0, 0);
         if (key.startsWith(QLatin1Char('@'))) {
             // "@object.field": that field of the object's last inspect line.
-            const QJsonObject line = a.inspected(key.mid(1).section(QLatin1Char('.'), 0, 0));
-            const QJsonValue v = line.value(key.section(QLatin1Char('.'), -1));
-            const QString text = v.isArray() ? v.toVariant().toStringList().join(QLatin1Char(','))
-                                 : v.isString() ? v.toString() : v.toVariant().toString();
-            got << key + QLatin1Char('=') + text;
+            got << key + QLatin1Char('=') + a.inspectedText(key.mid(1));
             continue;
         }
         if (key == QLatin1String("size")) {
@@ -458,7 +452,7 @@ void TestMultiLevel::multiLevel_data()
         << R"([{"choose": "tW", "text": "Monte Carlo Parameters"}, {"inspect": "tW"},
                {"inspect": "esl_shunt_tol_l"}, {"inspect": "esl_shunt_dist_l"}, {"accept": true}])"
         << true
-        << QStringList{"size=12", "@tW.items=Parameters,Monte Carlo Parameters", "@tW.current=1",
+        << QStringList{"size=12", "@tW.items=Parameters|Monte Carlo Parameters", "@tW.current=1",
                        "@esl_shunt_tol_l.enabled=false", "@esl_shunt_dist_l.text=None"}
         << none;
     QTest::newRow("calculator from ESL: 1u at 10G")
@@ -502,7 +496,7 @@ void TestMultiLevel::multiLevel_data()
 void TestMultiLevel::multiLevelEdits()
 {
     QStringList seen;
-    Probe probe([&seen](QDialog* dialog) {
+    ShownDialogProbe probe([&seen](QDialog* dialog) {
         auto* esl = dialog->findChild<Spinner*>(QStringLiteral("esl"));
         auto* calc = dialog->findChild<QWidget*>(QStringLiteral("toolButtonEslShuntCalculate"));
         QVERIFY(esl && calc);
@@ -513,7 +507,7 @@ void TestMultiLevel::multiLevelEdits()
     });
     const Answered a = answer(m_engine, "EditMultiLevelInductorCapacitorDialog",
                               multiArgs({}, {}, capValues("3"), {"", kDists}),
-                              R"([{"wait": "probed"}, {"accept": true}])");
+                              probed(R"([{"accept": true}])"));
     QVERIFY2(a.ok, qPrintable(a.failure));
     QCOMPARE(seen, (QStringList{"{L1}=false", "=false", "2n=true", "x}=false"}));
 }
@@ -737,13 +731,8 @@ void TestMultiLevel::opampAcResistanceWarning()
         m_engine, "EditParameterisedOpampDialog", stringArgs({brelvonValues("2", "100", "100"), {"BRELVON"}}),
         R"([{"key": "ro_ac", "keys": "Up"}, {"message": "OK"}, {"accept": true}])");
     QVERIFY2(a.ok, qPrintable(a.failure));
-    const QList<QJsonObject> boxes = a.eventsOf(QStringLiteral("messageBox"));
-    QCOMPARE(boxes.size(), 1);
-    const QJsonObject box = boxes.first().value(QLatin1String("messageBox")).toObject();
-    QCOMPARE(box.value(QLatin1String("title")).toString(), QStringLiteral("Maximum Output AC Resistance Hit"));
-    QCOMPARE(box.value(QLatin1String("text")).toString(),
-             QStringLiteral("The maximum value of the <b>Output AC Resistance</b> must be less than the "
-                            "<b>Output Resistance</b> value."));
+    QCOMPARE(a.messages(), QStringList{"Maximum Output AC Resistance Hit|The maximum value of the <b>Output AC "
+                                       "Resistance</b> must be less than the <b>Output Resistance</b> value."});
     QCOMPARE(textsOf(a.result).value(14), QStringLiteral("100"));
 }
 
@@ -774,10 +763,7 @@ void TestMultiLevel::helpTopics()
     const Answered a = answer(m_engine, function.toLatin1().constData(), args,
                               R"([{"click": "helpButton"}, {"cancel": true}])");
     QVERIFY2(a.ok, qPrintable(a.failure));
-    QStringList seen;
-    for (const QJsonObject& e : a.eventsOf(QStringLiteral("help")))
-        seen << e.value(QLatin1String("help")).toString();
-    QCOMPARE(seen, topics);
+    QCOMPARE(a.helpTopics(), topics);
 }
 
 QTEST_MAIN(TestMultiLevel)
