@@ -297,7 +297,6 @@ private slots:
     void noDialog();
     void slowStart();
     void screenshot();
-    void engineCall();
 
 private:
     Run drive(const QByteArray& script, const QString& form);
@@ -745,22 +744,6 @@ void TestAnswers::screenshot()
     QVERIFY2(run.failure.isEmpty(), qPrintable(run.failure));
     const QImage image(file, "PNG");
     QVERIFY(image.width() > 10 && image.height() > 10);
-}
-
-// Through the engine: a script that fails makes a failed call, with no result.
-void TestAnswers::engineCall()
-{
-    vtkit::Engine engine;
-    if (!engine.load(VT_MODULE_PATH) || !engine.find("Select2Dialog"))
-        QSKIP("the module or its Select2Dialog is not available");
-    AnswerScript broken;
-    QVERIFY(AnswerScript::fromJson(R"([{"click": "noSuchWidget"}])", &broken, nullptr));
-    DialogDriver failing(broken);
-    const vtkit::CallResult call = failing.call(engine, "Select2Dialog", {});
-    QCOMPARE(call.status, vtkit::CallResult::Status::Failed);
-    QVERIFY(!call.hasResult);
-    QVERIFY2(QString::fromStdString(call.error).contains(QLatin1String("no widget \"noSuchWidget\"")),
-             call.error.c_str());
 }
 
 QTEST_MAIN(TestAnswers)

@@ -103,22 +103,51 @@ private slots:
     void filterOrderLimits();
 
     void gateOpens_data();
-    void gateOpens();
+    void gateOpens() { checkForm("EditBRELVONGateDialog"); }
     void gateCounts_data();
     void gateCounts();
 
     void jumper_data();
-    void jumper();
+    void jumper() { checkForm("EditJumperDialog"); }
 
     void convergence_data();
-    void convergence();
+    void convergence() { checkForm("ConvergenceDialog"); }
 
     void badArgumentsOpenWithDefaults_data();
     void badArgumentsOpenWithDefaults();
 
 private:
+    // Rows of a form answered by steps: the facts of its inspect lines on
+    // opening ("object.field"), the result and the help topics asked for.
+    static void columns();
+    void checkForm(const char* function);
+
     vtkit::Engine m_engine;
 };
+
+void TestDeviceDialogs::columns()
+{
+    QTest::addColumn<Args>("args");
+    QTest::addColumn<QByteArray>("steps");
+    QTest::addColumn<Facts>("want");
+    QTest::addColumn<QStringList>("result");
+    QTest::addColumn<QStringList>("help");
+}
+
+void TestDeviceDialogs::checkForm(const char* function)
+{
+    QFETCH(Args, args);
+    QFETCH(QByteArray, steps);
+    QFETCH(Facts, want);
+    QFETCH(QStringList, result);
+    QFETCH(QStringList, help);
+    const Answered a = answer(m_engine, function, args, withInspections(steps, objectsOf(want.keys())));
+    QVERIFY2(a.ok, qPrintable(a.failure));
+    const Facts got = inspectedFacts(a, want);
+    QVERIFY2(got == want, qPrintable(differences(got, want)));
+    QCOMPARE(textsOf(a.result), result);
+    QCOMPARE(a.helpTopics(), help);
+}
 
 // ------------------------------------------------------------------ filter
 
@@ -421,56 +450,47 @@ Args gateArgs(const QStringList& numbers, const QStringList& limits = {"0|1|X", 
 
 void TestDeviceDialogs::gateOpens_data()
 {
-    QTest::addColumn<Args>("args");
-    QTest::addColumn<Facts>("want");
+    columns();
+    const auto row = [](const char* name, const Args& args, const Facts& want) {
+        QTest::newRow(name) << args << QByteArray("[{\"cancel\": true}]") << want << QStringList() << QStringList();
+    };
     const QString inputs = QStringLiteral("numberOfLogicInputsCombo.");
     const QString inverted = QStringLiteral("numberOfInvertedLogicInputsCombo.");
     QStringList counts;
     for (int n = 2; n <= 64; ++n)
         counts << QString::number(n);
     const QString upTo64 = counts.join(QLatin1Char('|'));
-    QTest::newRow("type 7 opens as AND / NAND")
-        << gateArgs({"7", "3", "1"})
-        << Facts{{"gateTypeGroup.current", "0"}, {"labelTitle.text", "AND gate"},
-                 {inputs + "text", "3"}, {inverted + "items", "0|1|2"}};
-    QTest::newRow("count 12 above the maximum opens at 2")
-        << gateArgs({"0", "12", "0"}) << Facts{{inputs + "text", "2"}, {inverted + "items", "0|1"}};
-    QTest::newRow("inverted equal to the inputs becomes 0")
-        << gateArgs({"1", "3", "3"})
-        << Facts{{inverted + "text", "0"}, {"labelDescription.text", "any high"}};
-    QTest::newRow("minimum non-inverted 3 of 2 inputs: empty and disabled")
-        << gateArgs({"0", "2", "0"}, {"", "", "9", "3"})
-        << Facts{{inverted + "items", ""}, {inverted + "enabled", "false"}, {inputs + "enabled", "true"}};
-    QTest::newRow("XOR has fixed lists")
-        << gateArgs({"2", "5", "1"})
-        << Facts{{inputs + "items", "2"}, {inputs + "enabled", "false"}, {inverted + "items", "0|1"},
-                 {inverted + "text", "1"}, {"labelTitle.text", "XOR gate"}};
-    QTest::newRow("inverter")
-        << gateArgs({"3", "1", "0"}) << Facts{{inputs + "items", "1"}, {inverted + "items", "0"}};
-    QTest::newRow("maximum of 1e9 is capped")
-        << gateArgs({"0", "2", "0"}, {"", "", "1000000000", "1"}) << Facts{{inputs + "items", upTo64}};
-    QTest::newRow("help topic -1 hides Help for its type")
-        << gateArgs({"2", "2", "0"}, {"", "", "9", "1", "", "", "Gate Title", "10|11|-1|13", "A-D"})
-        << Facts{{"helpButton.visible", "false"}, {".title", "Gate Title"}, {"labelADInterface.text", "A-D"}};
-    QTest::newRow("help topic shown for its type")
-        << gateArgs({"1", "2", "0"}, {"", "", "9", "1", "", "", "", "10|11|-1|13"})
-        << Facts{{"helpButton.visible", "true"}};
-    QTest::newRow("fewer than 8 limits: no help")
-        << gateArgs({"0", "2", "0"}) << Facts{{"helpButton.visible", "false"}};
-    QTest::newRow("ground reference of one item is disabled")
-        << gateArgs({"0", "2", "0"}, {"0|1", "0", "9", "1"})
-        << Facts{{"groundReferenceCombo.enabled", "false"}, {"labelResUnits1.text", QString(QChar(0x03A9))}};
-}
-
-void TestDeviceDialogs::gateOpens()
-{
-    QFETCH(Args, args);
-    QFETCH(Facts, want);
-    const Answered a = answer(m_engine, "EditBRELVONGateDialog", args,
-                              withInspections("[{\"cancel\": true}]", objectsOf(want.keys())));
-    QVERIFY2(a.ok, qPrintable(a.failure));
-    const Facts got = inspectedFacts(a, want);
-    QVERIFY2(got == want, qPrintable(differences(got, want)));
+    row("type 7 opens as AND / NAND",
+        gateArgs({"7", "3", "1"}),
+        Facts{{"gateTypeGroup.current", "0"}, {"labelTitle.text", "AND gate"},
+              {inputs + "text", "3"}, {inverted + "items", "0|1|2"}});
+    row("count 12 above the maximum opens at 2",
+        gateArgs({"0", "12", "0"}), Facts{{inputs + "text", "2"}, {inverted + "items", "0|1"}});
+    row("inverted equal to the inputs becomes 0",
+        gateArgs({"1", "3", "3"}),
+        Facts{{inverted + "text", "0"}, {"labelDescription.text", "any high"}});
+    row("minimum non-inverted 3 of 2 inputs: empty and disabled",
+        gateArgs({"0", "2", "0"}, {"", "", "9", "3"}),
+        Facts{{inverted + "items", ""}, {inverted + "enabled", "false"}, {inputs + "enabled", "true"}});
+    row("XOR has fixed lists",
+        gateArgs({"2", "5", "1"}),
+        Facts{{inputs + "items", "2"}, {inputs + "enabled", "false"}, {inverted + "items", "0|1"},
+              {inverted + "text", "1"}, {"labelTitle.text", "XOR gate"}});
+    row("inverter",
+        gateArgs({"3", "1", "0"}), Facts{{inputs + "items", "1"}, {inverted + "items", "0"}});
+    row("maximum of 1e9 is capped",
+        gateArgs({"0", "2", "0"}, {"", "", "1000000000", "1"}), Facts{{inputs + "items", upTo64}});
+    row("help topic -1 hides Help for its type",
+        gateArgs({"2", "2", "0"}, {"", "", "9", "1", "", "", "Gate Title", "10|11|-1|13", "A-D"}),
+        Facts{{"helpButton.visible", "false"}, {".title", "Gate Title"}, {"labelADInterface.text", "A-D"}});
+    row("help topic shown for its type",
+        gateArgs({"1", "2", "0"}, {"", "", "9", "1", "", "", "", "10|11|-1|13"}),
+        Facts{{"helpButton.visible", "true"}});
+    row("fewer than 8 limits: no help",
+        gateArgs({"0", "2", "0"}), Facts{{"helpButton.visible", "false"}});
+    row("ground reference of one item is disabled",
+        gateArgs({"0", "2", "0"}, {"0|1", "0", "9", "1"}),
+        Facts{{"groundReferenceCombo.enabled", "false"}, {"labelResUnits1.text", QString(QChar(0x03A9))}});
 }
 
 void TestDeviceDialogs::gateCounts_data()
@@ -525,11 +545,7 @@ void TestDeviceDialogs::gateCounts()
 
 void TestDeviceDialogs::jumper_data()
 {
-    QTest::addColumn<Args>("args");
-    QTest::addColumn<QByteArray>("steps");
-    QTest::addColumn<Facts>("want"); // on opening
-    QTest::addColumn<QStringList>("result");
-    QTest::addColumn<QStringList>("help");
+    columns();
     const Args titled = {strings({"1", "4", "0"}), strings({"J1", "12"})};
     QTest::newRow("one position, closed")
         << Args{strings({"0", "2", "1"})} << kAccept
@@ -560,70 +576,39 @@ void TestDeviceDialogs::jumper_data()
         << QStringList{"1", "1", "0"} << QStringList{};
 }
 
-void TestDeviceDialogs::jumper()
-{
-    QFETCH(Args, args);
-    QFETCH(QByteArray, steps);
-    QFETCH(Facts, want);
-    QFETCH(QStringList, result);
-    QFETCH(QStringList, help);
-    const Answered a = answer(m_engine, "EditJumperDialog", args, withInspections(steps, objectsOf(want.keys())));
-    QVERIFY2(a.ok, qPrintable(a.failure));
-    const Facts got = inspectedFacts(a, want);
-    QVERIFY2(got == want, qPrintable(differences(got, want)));
-    QCOMPARE(textsOf(a.result), result);
-    QCOMPARE(a.helpTopics(), help);
-}
-
 // ------------------------------------------------------------- convergence
 
 void TestDeviceDialogs::convergence_data()
 {
-    QTest::addColumn<Args>("args");
-    QTest::addColumn<QByteArray>("steps");
-    QTest::addColumn<Facts>("want");
-    QTest::addColumn<QStringList>("result");
+    columns();
     const QStringList defaults{"0", "1n", "1", "5e11", "1", "1p", "1", "1", "1f", "1"};
     QTest::newRow("default boxes put the defaults back, slew rate kept")
         << Args{strings(defaults)} << kAccept
         << Facts{{"abstolEdit.enabled", "false"}, {"cbApplyShuntCapacitanceGlobally.enabled", "false"},
                  {"discontinuousSourceSlewRateEdit.enabled", "false"}}
-        << QStringList{"0", "1e-12", "1", "5e11", "1", "0", "1", "1", "0", "1"};
+        << QStringList{"0", "1e-12", "1", "5e11", "1", "0", "1", "1", "0", "1"} << QStringList();
     QTest::newRow("minimum time step default from argument 1")
         << Args{strings(defaults), strings({"10f"})} << kAccept << Facts{}
-        << QStringList{"0", "1e-12", "1", "5e11", "1", "0", "1", "1", "1e-14", "1"};
+        << QStringList{"0", "1e-12", "1", "5e11", "1", "0", "1", "1", "1e-14", "1"} << QStringList();
     QTest::newRow("unchecked boxes keep the loaded values, fields enabled")
         << Args{strings({"1", "1n", "0", "5e11", "0", "1p", "0", "1", "2f", "0"})} << kAccept
         << Facts{{"abstolEdit.enabled", "true"}, {"minTimeStepEdit.enabled", "true"},
                  {"discontinuousSourceSlewRateEdit.enabled", "true"},
                  {"cbApplyShuntCapacitanceGlobally.enabled", "true"}}
-        << QStringList{"1", "1n", "0", "5e11", "0", "1p", "0", "1", "2f", "0"};
+        << QStringList{"1", "1n", "0", "5e11", "0", "1p", "0", "1", "2f", "0"} << QStringList();
     QTest::newRow("unchecking keeps 1e-12; checking again writes it back")
         << Args{strings(defaults)}
         << QByteArray(R"([{"check": "cbDefaultAbsoluteCurrentTolerance", "on": false}, {"set": "abstolEdit", "text": "3n"},
              {"check": "cbDefaultAbsoluteCurrentTolerance", "on": true}, {"accept": true}])")
-        << Facts{} << QStringList{"0", "1e-12", "1", "5e11", "1", "0", "1", "1", "0", "1"};
+        << Facts{} << QStringList{"0", "1e-12", "1", "5e11", "1", "0", "1", "1", "0", "1"} << QStringList();
     QTest::newRow("unchecked default keeps an edit")
         << Args{strings(defaults)}
         << QByteArray(R"([{"check": "cbDefaultAbsoluteCurrentTolerance", "on": false}, {"set": "abstolEdit", "text": "3n"},
              {"check": "cbEnableDiscontinuousSourceSlewRate", "on": false}, {"accept": true}])")
-        << Facts{} << QStringList{"0", "3n", "0", "5e11", "0", "0", "1", "1", "0", "1"};
+        << Facts{} << QStringList{"0", "3n", "0", "5e11", "0", "0", "1", "1", "0", "1"} << QStringList();
     QTest::newRow("no arguments: form defaults")
         << Args{} << kAccept << Facts{{"discontinuousSourceSlewRateEdit.text", "1e+012"}}
-        << QStringList{"0", "1e-12", "1", "1e+012", "1", "0", "1", "0", "0", "1"};
-}
-
-void TestDeviceDialogs::convergence()
-{
-    QFETCH(Args, args);
-    QFETCH(QByteArray, steps);
-    QFETCH(Facts, want);
-    QFETCH(QStringList, result);
-    const Answered a = answer(m_engine, "ConvergenceDialog", args, withInspections(steps, objectsOf(want.keys())));
-    QVERIFY2(a.ok, qPrintable(a.failure));
-    const Facts got = inspectedFacts(a, want);
-    QVERIFY2(got == want, qPrintable(differences(got, want)));
-    QCOMPARE(textsOf(a.result), result);
+        << QStringList{"0", "1e-12", "1", "1e+012", "1", "0", "1", "0", "0", "1"} << QStringList();
 }
 
 // ------------------------------------------------------------ bad input

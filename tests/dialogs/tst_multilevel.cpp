@@ -373,9 +373,6 @@ void TestMultiLevel::multiLevel_data()
     QTest::newRow("five options: element 5 is absent, the bar is 2")
         << multiArgs(curve(4), {"", "", "", "", "0"}, capValues("3"), pwlc) << accept << true
         << QStringList{"0=" + pwltext::write(curve(4))} << none;
-    QTest::newRow("threshold that is no number is 2")
-        << multiArgs(curve(3), {"", "", "", "", "", "abc"}, capValues("3"), pwlc) << accept << true
-        << QStringList{"0=" + kDefaultCapCurve} << none;
     QTest::newRow("odd count: the last entry is dropped")
         << multiArgs(curve(5) << "99", {}, capValues("3"), pwlc) << accept << true
         << QStringList{"0=" + pwltext::write(curve(5))} << none;
