@@ -211,6 +211,37 @@ private:
     QTimer m_timer;
 };
 
+// What an answered call shows of each fact, written as the fact is, for a
+// QCOMPARE with facts: "none" (no result), "count=13" (the result's
+// length), "3=Gain" (result element 3), "help=12" (the last help topic
+// asked for) and "object.field=value" (that field of the object's last
+// inspect line, "" the dialog).
+inline QStringList factsSeen(const Answered& a, const QStringList& facts)
+{
+    const QStringList result = textsOf(a.result);
+    QStringList out;
+    for (const QString& fact : facts) {
+        const QString key = fact.section(QLatin1Char('='), 0, 0);
+        if (fact == QLatin1String("none")) {
+            out << (a.result.hasResult ? QStringLiteral("result ") + result.join(QLatin1Char(';')) : fact);
+            continue;
+        }
+        QString got;
+        if (key == QLatin1String("help"))
+            got = a.helpTopics().value(a.helpTopics().size() - 1, QStringLiteral("(no help request)"));
+        else if (key == QLatin1String("count"))
+            got = QString::number(result.size());
+        else if (!key.contains(QLatin1Char('.')))
+            got = result.value(key.toInt(), QStringLiteral("(absent)"));
+        else if (a.inspected(key.section(QLatin1Char('.'), 0, -2)).isEmpty())
+            got = QStringLiteral("(not inspected)");
+        else
+            got = a.inspectedText(key);
+        out << key + QLatin1Char('=') + got;
+    }
+    return out;
+}
+
 // steps with the wait for a ShownDialogProbe put in front.
 inline QByteArray probed(const QByteArray& steps)
 {
