@@ -8,7 +8,6 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QMap>
-#include <QTimer>
 #include <QtTest>
 
 using namespace dialogtest;
@@ -18,65 +17,31 @@ Q_DECLARE_METATYPE(Facts)
 
 namespace {
 
-// Reads facts that an inspect line doesn't report (binding indices, the
-// focus) from the dialog a call opens, before the driver answers it.
-// The answer script starts with {"wait": "probed"}: the probe sets that
-// title once it has looked, so its look and the driver's steps never race.
-class Probe {
-public:
-    Probe(const QStringList& keys, Facts* out) : m_keys(keys), m_out(out)
-    {
-        m_timer.setInterval(5);
-        QObject::connect(&m_timer, &QTimer::timeout, [this] {
-            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            if (!dialog || !dialog->isVisible())
-                return;
-            m_timer.stop();
-            for (const QString& key : m_keys)
-                m_out->insert(key, fact(dialog, key));
-            dialog->setWindowTitle(QStringLiteral("probed"));
-        });
-        m_timer.start();
-    }
-
-private:
-    // "object.property"; the pseudo properties are "shown" (visible within
-    // the dialog), "items" (of a combo box) and "focus" ("" object: the
-    // widget whose edit field has the focus). "" object: the dialog.
-    static QString fact(QDialog* dialog, const QString& key)
-    {
-        const QString name = key.section(QLatin1Char('.'), 0, 0);
-        const QString property = key.section(QLatin1Char('.'), 1);
-        if (property == QLatin1String("focus")) {
-            QWidget* f = dialog->focusWidget();
-            return f && f->parentWidget() ? f->parentWidget()->objectName() : QString();
-        }
-        QWidget* w = name.isEmpty() ? dialog : dialog->findChild<QWidget*>(name);
-        if (!w)
-            return QStringLiteral("absent");
-        if (property == QLatin1String("shown"))
-            return w->isVisibleTo(dialog) ? QStringLiteral("true") : QStringLiteral("false");
-        if (property == QLatin1String("items")) {
-            auto* combo = qobject_cast<QComboBox*>(w);
-            QStringList items;
-            for (int i = 0; combo && i < combo->count(); ++i)
-                items << combo->itemText(i);
-            return items.join(QLatin1Char('|'));
-        }
-        return w->property(property.toLatin1().constData()).toString();
-    }
-
-    QStringList m_keys;
-    Facts* m_out;
-    QTimer m_timer;
-};
-
-QByteArray probed(const QByteArray& steps)
+// A fact an inspect line doesn't report, read from the dialog as it opens:
+// "object.property"; the pseudo properties are "shown" (visible within
+// the dialog), "items" (of a combo box) and "focus" ("" object: the widget
+// whose edit field has the focus). "" object: the dialog.
+QString fact(QDialog* dialog, const QString& key)
 {
-    QByteArray out = steps.trimmed();
-    out.remove(0, 1); // "["
-    out = "[{\"wait\": \"probed\"}" + QByteArray(out.startsWith(']') ? "" : ", ") + out;
-    return out;
+    const QString name = key.section(QLatin1Char('.'), 0, 0);
+    const QString property = key.section(QLatin1Char('.'), 1);
+    if (property == QLatin1String("focus")) {
+        QWidget* f = dialog->focusWidget();
+        return f && f->parentWidget() ? f->parentWidget()->objectName() : QString();
+    }
+    QWidget* w = name.isEmpty() ? dialog : dialog->findChild<QWidget*>(name);
+    if (!w)
+        return QStringLiteral("absent");
+    if (property == QLatin1String("shown"))
+        return w->isVisibleTo(dialog) ? QStringLiteral("true") : QStringLiteral("false");
+    if (property == QLatin1String("items")) {
+        auto* combo = qobject_cast<QComboBox*>(w);
+        QStringList items;
+        for (int i = 0; combo && i < combo->count(); ++i)
+            items << combo->itemText(i);
+        return items.join(QLatin1Char('|'));
+    }
+    return w->property(property.toLatin1().constData()).toString();
 }
 
 // Elements of a filter's argument 0 from a sparse map over a default array.
@@ -106,39 +71,12 @@ QString differences(const Facts& got, const Facts& want)
     return out.join(QStringLiteral("; "));
 }
 
-// Inspect steps for each object that facts name ("object.field", "" the
-// dialog), put in front of steps.
-QByteArray withInspections(const Facts& facts, const QByteArray& steps)
-{
-    QStringList objects;
-    for (const QString& key : facts.keys())
-        if (!objects.contains(key.section(QLatin1Char('.'), 0, 0)))
-            objects << key.section(QLatin1Char('.'), 0, 0);
-    QByteArray out = "[";
-    for (const QString& object : objects)
-        out += "{\"inspect\": \"" + object.toLatin1() + "\"}, ";
-    return out + steps.trimmed().mid(1);
-}
-
-// The fields of the inspect lines that facts name, as text: lists joined
-// by "|", numbers in decimal.
-Facts inspectedFacts(const Answered& a, const Facts& facts)
+// The inspected fields that want names, as text.
+Facts inspectedFacts(const Answered& a, const Facts& want)
 {
     Facts out;
-    for (const QString& key : facts.keys()) {
-        const QJsonValue v = a.inspected(key.section(QLatin1Char('.'), 0, 0))
-                                 .value(key.section(QLatin1Char('.'), 1));
-        QString text;
-        if (v.isArray())
-            text = v.toVariant().toStringList().join(QLatin1Char('|'));
-        else if (v.isBool())
-            text = v.toBool() ? QStringLiteral("true") : QStringLiteral("false");
-        else if (v.isDouble())
-            text = QString::number(v.toInt());
-        else
-            text = v.isString() ? v.toString() : QStringLiteral("null");
-        out.insert(key, text);
-    }
+    for (const QString& key : want.keys())
+        out.insert(key, a.inspectedText(key));
     return out;
 }
 
@@ -165,22 +103,51 @@ private slots:
     void filterOrderLimits();
 
     void gateOpens_data();
-    void gateOpens();
+    void gateOpens() { checkForm("EditBRELVONGateDialog"); }
     void gateCounts_data();
     void gateCounts();
 
     void jumper_data();
-    void jumper();
+    void jumper() { checkForm("EditJumperDialog"); }
 
     void convergence_data();
-    void convergence();
+    void convergence() { checkForm("ConvergenceDialog"); }
 
     void badArgumentsOpenWithDefaults_data();
     void badArgumentsOpenWithDefaults();
 
 private:
+    // Rows of a form answered by steps: the facts of its inspect lines on
+    // opening ("object.field"), the result and the help topics asked for.
+    static void columns();
+    void checkForm(const char* function);
+
     vtkit::Engine m_engine;
 };
+
+void TestDeviceDialogs::columns()
+{
+    QTest::addColumn<Args>("args");
+    QTest::addColumn<QByteArray>("steps");
+    QTest::addColumn<Facts>("want");
+    QTest::addColumn<QStringList>("result");
+    QTest::addColumn<QStringList>("help");
+}
+
+void TestDeviceDialogs::checkForm(const char* function)
+{
+    QFETCH(Args, args);
+    QFETCH(QByteArray, steps);
+    QFETCH(Facts, want);
+    QFETCH(QStringList, result);
+    QFETCH(QStringList, help);
+    const Answered a = answer(m_engine, function, args, withInspections(steps, objectsOf(want.keys())));
+    QVERIFY2(a.ok, qPrintable(a.failure));
+    const Facts got = inspectedFacts(a, want);
+    QVERIFY2(got == want, qPrintable(differences(got, want)));
+    QCOMPARE(textsOf(a.result), result);
+    QCOMPARE(a.helpTopics(), help);
+}
 
 // ------------------------------------------------------------------ filter
 
@@ -247,7 +214,7 @@ void TestDeviceDialogs::filterCalculates()
         QCOMPARE(out.at(6), QString());
     }
     QCOMPARE(out.at(13), QString::fromLatin1(methods[method]));
-    QVERIFY(a.eventsOf(QStringLiteral("messageBox")).isEmpty());
+    QVERIFY(a.messages().isEmpty());
 }
 
 void TestDeviceDialogs::filterGuard_data()
@@ -278,14 +245,13 @@ void TestDeviceDialogs::filterGuard()
                              + (fires ? ", {\"message\": \"OK\"}" : "") + ", {\"accept\": true}]";
     const Answered a = answer(m_engine, "EditBrelvonFilter", {strings(args)}, steps);
     QVERIFY2(a.ok, qPrintable(a.failure));
-    const QList<QJsonObject> boxes = a.eventsOf(QStringLiteral("messageBox"));
+    const QStringList boxes = a.messages();
     QCOMPARE(boxes.size(), fires ? 1 : 0);
     if (!fires)
         return;
-    const QJsonObject box = boxes.first().value(QStringLiteral("messageBox")).toObject();
-    QCOMPARE(box.value(QStringLiteral("title")).toString(), QStringLiteral("Division by Zero detected!"));
-    QVERIFY(box.value(QStringLiteral("text")).toString().startsWith(
-        "Using the coefficients provided, calculation of the new coeficiencts will result in a divide by zero.\n"));
+    QVERIFY2(boxes.first().startsWith("Division by Zero detected!|Using the coefficients provided, calculation of "
+                                      "the new coeficiencts will result in a divide by zero.\n"),
+             qPrintable(boxes.first()));
     const QStringList out = textsOf(a.result);
     for (int i = 8; i <= 12; ++i)
         QCOMPARE(out.at(i), args.at(i) == "-1k" ? QStringLiteral("-1000") : args.at(i));
@@ -334,11 +300,10 @@ void TestDeviceDialogs::filterOkQuestion()
     const QStringList args = filterArray({{0, model}, {10, "1"}, {11, "0"}, {12, "4"}, {14, "1"}});
     const Answered a = answer(m_engine, "EditBrelvonFilter", {strings(args)}, steps);
     QVERIFY2(a.ok, qPrintable(a.failure));
-    const QList<QJsonObject> boxes = a.eventsOf(QStringLiteral("messageBox"));
+    const QStringList boxes = a.messages();
     QCOMPARE(boxes.size(), question.isEmpty() ? 0 : 1);
     if (!question.isEmpty())
-        QCOMPARE(boxes.first().value(QStringLiteral("messageBox")).toObject().value(QStringLiteral("title")).toString(),
-                 question);
+        QCOMPARE(boxes.first().section('|', 0, 0), question);
     const QStringList out = textsOf(a.result);
     QCOMPARE(out.isEmpty(), !closes);
     if (closes && !element4.isEmpty())
@@ -437,7 +402,10 @@ void TestDeviceDialogs::filterOpens()
     QFETCH(QStringList, args);
     QFETCH(Facts, want);
     Facts got;
-    Probe probe(want.keys(), &got);
+    ShownDialogProbe probe([&](QDialog* dialog) {
+        for (const QString& key : want.keys())
+            got.insert(key, fact(dialog, key));
+    });
     const Answered a = answer(m_engine, "EditBrelvonFilter", args.isEmpty() ? Args{} : Args{strings(args)},
                               probed("[{\"cancel\": true}]"));
     QVERIFY2(a.ok, qPrintable(a.failure));
@@ -462,9 +430,8 @@ void TestDeviceDialogs::filterOrderLimits()
                              + R"("}, {"message": "OK"}, {"cancel": true}])";
     const Answered a = answer(m_engine, "EditBrelvonFilter", {strings(filterArray({{1, order}}))}, steps);
     QVERIFY2(a.ok, qPrintable(a.failure));
-    const QList<QJsonObject> boxes = a.eventsOf(QStringLiteral("messageBox"));
-    QCOMPARE(boxes.size(), 1);
-    QCOMPARE(boxes.first().value("messageBox").toObject().value("title").toString(), title);
+    QCOMPARE(a.messages().size(), 1);
+    QCOMPARE(a.messages().first().section('|', 0, 0), title);
 }
 
 // -------------------------------------------------------------------- gate
@@ -483,56 +450,47 @@ Args gateArgs(const QStringList& numbers, const QStringList& limits = {"0|1|X", 
 
 void TestDeviceDialogs::gateOpens_data()
 {
-    QTest::addColumn<Args>("args");
-    QTest::addColumn<Facts>("want");
+    columns();
+    const auto row = [](const char* name, const Args& args, const Facts& want) {
+        QTest::newRow(name) << args << QByteArray("[{\"cancel\": true}]") << want << QStringList() << QStringList();
+    };
     const QString inputs = QStringLiteral("numberOfLogicInputsCombo.");
     const QString inverted = QStringLiteral("numberOfInvertedLogicInputsCombo.");
     QStringList counts;
     for (int n = 2; n <= 64; ++n)
         counts << QString::number(n);
     const QString upTo64 = counts.join(QLatin1Char('|'));
-    QTest::newRow("type 7 opens as AND / NAND")
-        << gateArgs({"7", "3", "1"})
-        << Facts{{"gateTypeGroup.current", "0"}, {"labelTitle.text", "AND gate"},
-                 {inputs + "text", "3"}, {inverted + "items", "0|1|2"}};
-    QTest::newRow("count 12 above the maximum opens at 2")
-        << gateArgs({"0", "12", "0"}) << Facts{{inputs + "text", "2"}, {inverted + "items", "0|1"}};
-    QTest::newRow("inverted equal to the inputs becomes 0")
-        << gateArgs({"1", "3", "3"})
-        << Facts{{inverted + "text", "0"}, {"labelDescription.text", "any high"}};
-    QTest::newRow("minimum non-inverted 3 of 2 inputs: empty and disabled")
-        << gateArgs({"0", "2", "0"}, {"", "", "9", "3"})
-        << Facts{{inverted + "items", ""}, {inverted + "enabled", "false"}, {inputs + "enabled", "true"}};
-    QTest::newRow("XOR has fixed lists")
-        << gateArgs({"2", "5", "1"})
-        << Facts{{inputs + "items", "2"}, {inputs + "enabled", "false"}, {inverted + "items", "0|1"},
-                 {inverted + "text", "1"}, {"labelTitle.text", "XOR gate"}};
-    QTest::newRow("inverter")
-        << gateArgs({"3", "1", "0"}) << Facts{{inputs + "items", "1"}, {inverted + "items", "0"}};
-    QTest::newRow("maximum of 1e9 is capped")
-        << gateArgs({"0", "2", "0"}, {"", "", "1000000000", "1"}) << Facts{{inputs + "items", upTo64}};
-    QTest::newRow("help topic -1 hides Help for its type")
-        << gateArgs({"2", "2", "0"}, {"", "", "9", "1", "", "", "Gate Title", "10|11|-1|13", "A-D"})
-        << Facts{{"helpButton.visible", "false"}, {".title", "Gate Title"}, {"labelADInterface.text", "A-D"}};
-    QTest::newRow("help topic shown for its type")
-        << gateArgs({"1", "2", "0"}, {"", "", "9", "1", "", "", "", "10|11|-1|13"})
-        << Facts{{"helpButton.visible", "true"}};
-    QTest::newRow("fewer than 8 limits: no help")
-        << gateArgs({"0", "2", "0"}) << Facts{{"helpButton.visible", "false"}};
-    QTest::newRow("ground reference of one item is disabled")
-        << gateArgs({"0", "2", "0"}, {"0|1", "0", "9", "1"})
-        << Facts{{"groundReferenceCombo.enabled", "false"}, {"labelResUnits1.text", QString(QChar(0x03A9))}};
-}
-
-void TestDeviceDialogs::gateOpens()
-{
-    QFETCH(Args, args);
-    QFETCH(Facts, want);
-    const Answered a = answer(m_engine, "EditBRELVONGateDialog", args,
-                              withInspections(want, "[{\"cancel\": true}]"));
-    QVERIFY2(a.ok, qPrintable(a.failure));
-    const Facts got = inspectedFacts(a, want);
-    QVERIFY2(got == want, qPrintable(differences(got, want)));
+    row("type 7 opens as AND / NAND",
+        gateArgs({"7", "3", "1"}),
+        Facts{{"gateTypeGroup.current", "0"}, {"labelTitle.text", "AND gate"},
+              {inputs + "text", "3"}, {inverted + "items", "0|1|2"}});
+    row("count 12 above the maximum opens at 2",
+        gateArgs({"0", "12", "0"}), Facts{{inputs + "text", "2"}, {inverted + "items", "0|1"}});
+    row("inverted equal to the inputs becomes 0",
+        gateArgs({"1", "3", "3"}),
+        Facts{{inverted + "text", "0"}, {"labelDescription.text", "any high"}});
+    row("minimum non-inverted 3 of 2 inputs: empty and disabled",
+        gateArgs({"0", "2", "0"}, {"", "", "9", "3"}),
+        Facts{{inverted + "items", ""}, {inverted + "enabled", "false"}, {inputs + "enabled", "true"}});
+    row("XOR has fixed lists",
+        gateArgs({"2", "5", "1"}),
+        Facts{{inputs + "items", "2"}, {inputs + "enabled", "false"}, {inverted + "items", "0|1"},
+              {inverted + "text", "1"}, {"labelTitle.text", "XOR gate"}});
+    row("inverter",
+        gateArgs({"3", "1", "0"}), Facts{{inputs + "items", "1"}, {inverted + "items", "0"}});
+    row("maximum of 1e9 is capped",
+        gateArgs({"0", "2", "0"}, {"", "", "1000000000", "1"}), Facts{{inputs + "items", upTo64}});
+    row("help topic -1 hides Help for its type",
+        gateArgs({"2", "2", "0"}, {"", "", "9", "1", "", "", "Gate Title", "10|11|-1|13", "A-D"}),
+        Facts{{"helpButton.visible", "false"}, {".title", "Gate Title"}, {"labelADInterface.text", "A-D"}});
+    row("help topic shown for its type",
+        gateArgs({"1", "2", "0"}, {"", "", "9", "1", "", "", "", "10|11|-1|13"}),
+        Facts{{"helpButton.visible", "true"}});
+    row("fewer than 8 limits: no help",
+        gateArgs({"0", "2", "0"}), Facts{{"helpButton.visible", "false"}});
+    row("ground reference of one item is disabled",
+        gateArgs({"0", "2", "0"}, {"0|1", "0", "9", "1"}),
+        Facts{{"groundReferenceCombo.enabled", "false"}, {"labelResUnits1.text", QString(QChar(0x03A9))}});
 }
 
 void TestDeviceDialogs::gateCounts_data()
@@ -580,21 +538,14 @@ void TestDeviceDialogs::gateCounts()
     QCOMPARE(out.size(), 12);
     QCOMPARE(out.mid(8, 3), want);
     QCOMPARE(out.mid(0, 8), (QStringList{"0", "1Meg", "10", "2.5", "0.1", "0", "5", "10n"}));
-    QStringList topics;
-    for (const QJsonObject& e : a.eventsOf(QStringLiteral("help")))
-        topics << e.value(QStringLiteral("help")).toString();
-    QCOMPARE(topics, help);
+    QCOMPARE(a.helpTopics(), help);
 }
 
 // ------------------------------------------------------------------ jumper
 
 void TestDeviceDialogs::jumper_data()
 {
-    QTest::addColumn<Args>("args");
-    QTest::addColumn<QByteArray>("steps");
-    QTest::addColumn<Facts>("want"); // on opening
-    QTest::addColumn<QStringList>("result");
-    QTest::addColumn<QStringList>("help");
+    columns();
     const Args titled = {strings({"1", "4", "0"}), strings({"J1", "12"})};
     QTest::newRow("one position, closed")
         << Args{strings({"0", "2", "1"})} << kAccept
@@ -625,73 +576,39 @@ void TestDeviceDialogs::jumper_data()
         << QStringList{"1", "1", "0"} << QStringList{};
 }
 
-void TestDeviceDialogs::jumper()
-{
-    QFETCH(Args, args);
-    QFETCH(QByteArray, steps);
-    QFETCH(Facts, want);
-    QFETCH(QStringList, result);
-    QFETCH(QStringList, help);
-    const Answered a = answer(m_engine, "EditJumperDialog", args, withInspections(want, steps));
-    QVERIFY2(a.ok, qPrintable(a.failure));
-    const Facts got = inspectedFacts(a, want);
-    QVERIFY2(got == want, qPrintable(differences(got, want)));
-    QCOMPARE(textsOf(a.result), result);
-    QStringList topics;
-    for (const QJsonObject& e : a.eventsOf(QStringLiteral("help")))
-        topics << e.value(QStringLiteral("help")).toString();
-    QCOMPARE(topics, help);
-}
-
 // ------------------------------------------------------------- convergence
 
 void TestDeviceDialogs::convergence_data()
 {
-    QTest::addColumn<Args>("args");
-    QTest::addColumn<QByteArray>("steps");
-    QTest::addColumn<Facts>("want");
-    QTest::addColumn<QStringList>("result");
+    columns();
     const QStringList defaults{"0", "1n", "1", "5e11", "1", "1p", "1", "1", "1f", "1"};
     QTest::newRow("default boxes put the defaults back, slew rate kept")
         << Args{strings(defaults)} << kAccept
         << Facts{{"abstolEdit.enabled", "false"}, {"cbApplyShuntCapacitanceGlobally.enabled", "false"},
                  {"discontinuousSourceSlewRateEdit.enabled", "false"}}
-        << QStringList{"0", "1e-12", "1", "5e11", "1", "0", "1", "1", "0", "1"};
+        << QStringList{"0", "1e-12", "1", "5e11", "1", "0", "1", "1", "0", "1"} << QStringList();
     QTest::newRow("minimum time step default from argument 1")
         << Args{strings(defaults), strings({"10f"})} << kAccept << Facts{}
-        << QStringList{"0", "1e-12", "1", "5e11", "1", "0", "1", "1", "1e-14", "1"};
+        << QStringList{"0", "1e-12", "1", "5e11", "1", "0", "1", "1", "1e-14", "1"} << QStringList();
     QTest::newRow("unchecked boxes keep the loaded values, fields enabled")
         << Args{strings({"1", "1n", "0", "5e11", "0", "1p", "0", "1", "2f", "0"})} << kAccept
         << Facts{{"abstolEdit.enabled", "true"}, {"minTimeStepEdit.enabled", "true"},
                  {"discontinuousSourceSlewRateEdit.enabled", "true"},
                  {"cbApplyShuntCapacitanceGlobally.enabled", "true"}}
-        << QStringList{"1", "1n", "0", "5e11", "0", "1p", "0", "1", "2f", "0"};
+        << QStringList{"1", "1n", "0", "5e11", "0", "1p", "0", "1", "2f", "0"} << QStringList();
     QTest::newRow("unchecking keeps 1e-12; checking again writes it back")
         << Args{strings(defaults)}
         << QByteArray(R"([{"check": "cbDefaultAbsoluteCurrentTolerance", "on": false}, {"set": "abstolEdit", "text": "3n"},
              {"check": "cbDefaultAbsoluteCurrentTolerance", "on": true}, {"accept": true}])")
-        << Facts{} << QStringList{"0", "1e-12", "1", "5e11", "1", "0", "1", "1", "0", "1"};
+        << Facts{} << QStringList{"0", "1e-12", "1", "5e11", "1", "0", "1", "1", "0", "1"} << QStringList();
     QTest::newRow("unchecked default keeps an edit")
         << Args{strings(defaults)}
         << QByteArray(R"([{"check": "cbDefaultAbsoluteCurrentTolerance", "on": false}, {"set": "abstolEdit", "text": "3n"},
              {"check": "cbEnableDiscontinuousSourceSlewRate", "on": false}, {"accept": true}])")
-        << Facts{} << QStringList{"0", "3n", "0", "5e11", "0", "0", "1", "1", "0", "1"};
+        << Facts{} << QStringList{"0", "3n", "0", "5e11", "0", "0", "1", "1", "0", "1"} << QStringList();
     QTest::newRow("no arguments: form defaults")
         << Args{} << kAccept << Facts{{"discontinuousSourceSlewRateEdit.text", "1e+012"}}
-        << QStringList{"0", "1e-12", "1", "1e+012", "1", "0", "1", "0", "0", "1"};
-}
-
-void TestDeviceDialogs::convergence()
-{
-    QFETCH(Args, args);
-    QFETCH(QByteArray, steps);
-    QFETCH(Facts, want);
-    QFETCH(QStringList, result);
-    const Answered a = answer(m_engine, "ConvergenceDialog", args, withInspections(want, steps));
-    QVERIFY2(a.ok, qPrintable(a.failure));
-    const Facts got = inspectedFacts(a, want);
-    QVERIFY2(got == want, qPrintable(differences(got, want)));
-    QCOMPARE(textsOf(a.result), result);
+        << QStringList{"0", "1e-12", "1", "1e+012", "1", "0", "1", "0", "0", "1"} << QStringList();
 }
 
 // ------------------------------------------------------------ bad input

@@ -38,17 +38,6 @@ QStringList emptyRows(int rows, int columns)
     return QVector<QString>(rows, QString(columns, QLatin1Char(';'))).toList();
 }
 
-// The dialog the driver is answering: the last top-level dialog shown.
-QDialog* shownDialog()
-{
-    QDialog* found = nullptr;
-    const QWidgetList tops = QApplication::topLevelWidgets();
-    for (QWidget* w : tops)
-        if (auto* d = qobject_cast<QDialog*>(w); d && d->isVisible())
-            found = d;
-    return found;
-}
-
 // A fact that an inspect line tells: "windowTitle" and "objectName" of the
 // dialog, or "child.field" with a field of the line. Gives the object to
 // inspect and the field, or false.
@@ -63,17 +52,6 @@ bool inspectable(const QString& key, QString* object, QString* field)
     *object = key.section(QLatin1Char('.'), 0, 0);
     *field = key.section(QLatin1Char('.'), 1);
     return key.contains(QLatin1Char('.')) && fields.contains(*field);
-}
-
-QString factText(const QJsonValue& v)
-{
-    if (v.isArray()) {
-        QStringList parts;
-        for (const QJsonValue& e : v.toArray())
-            parts << e.toString();
-        return parts.join(QLatin1Char('|'));
-    }
-    return v.isBool() ? QVariant(v.toBool()).toString() : v.toString();
 }
 
 // One fact about a shown dialog that no inspect line tells. "help" is its
@@ -143,12 +121,6 @@ private:
     // and fact()) are taken from the dialog before the steps run.
     static void columns();
     void check(const char* function);
-    // Runs the call with the answer steps; false (and a test failure) when
-    // the driver could not carry them out.
-    // look, if given, runs once while the dialog is open, at the first
-    // inspect step; events gets every line the driver reports.
-    bool run(const char* function, const Args& args, const QByteArray& steps, CallResult* result,
-             const std::function<void(QDialog*)>& look = {}, QList<QJsonObject>* events = nullptr);
 
     vtkit::Engine m_engine;
     QTemporaryDir m_config;
@@ -156,54 +128,12 @@ private:
 
 void TestDialogs::initTestCase()
 {
-    // Never touch the settings of whoever runs the test by hand.
-    if (qEnvironmentVariableIsEmpty("VANTRELL_CONFIG_DIR")) {
-        QVERIFY(m_config.isValid());
-        qputenv("VANTRELL_CONFIG_DIR", m_config.path().toLocal8Bit());
-    }
-    std::string error;
-    QVERIFY2(m_engine.load(VT_MODULE_PATH, &error), error.c_str());
-    m_engine.setDialogRunner(&vtkit::runBoundDialog);
+    QVERIFY(loadModule(m_engine, &m_config));
 }
 
 void TestDialogs::cleanup()
 {
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    const QWidgetList left = QApplication::topLevelWidgets();
-    for (const QWidget* widget : left)
-        qWarning() << "left open:" << widget;
-    QCOMPARE(left.size(), 0);
-}
-
-bool TestDialogs::run(const char* function, const Args& args, const QByteArray& steps,
-                      CallResult* result, const std::function<void(QDialog*)>& look,
-                      QList<QJsonObject>* events)
-{
-    vtkit::AnswerScript script;
-    QString error;
-    if (!vtkit::AnswerScript::fromJson(steps, &script, &error)) {
-        qWarning() << "bad answer script:" << error;
-        return false;
-    }
-    bool looked = false;
-    vtkit::DialogDriver driver(script, [&](const QByteArray& line) {
-        const QJsonObject event = QJsonDocument::fromJson(line).object();
-        if (events)
-            *events << event;
-        if (look && !looked && event.contains(QLatin1String("inspect"))) {
-            looked = true;
-            if (QDialog* dialog = shownDialog())
-                look(dialog);
-        }
-    });
-    *result = driver.call(m_engine, function, args);
-    if (look && !looked)
-        qWarning() << "the dialog was never looked at";
-    if (driver.failed() || result->status != CallResult::Status::Ok || (look && !looked)) {
-        qWarning() << "driver:" << driver.failure() << "call:" << QString::fromStdString(result->error);
-        return false;
-    }
-    return true;
+    QVERIFY(noTopLevelsLeft());
 }
 
 void TestDialogs::columns()
@@ -234,11 +164,6 @@ void TestDialogs::check(const char* function)
         if (!objects.contains(object))
             objects << object;
     }
-    QJsonArray all;
-    for (const QString& object : objects)
-        all << QJsonObject{{QStringLiteral("inspect"), object}};
-    for (const QJsonValue& step : QJsonDocument::fromJson(steps.toUtf8()).array())
-        all << step;
     std::function<void(QDialog*)> look;
     if (!facts.isEmpty()) {
         look = [&](QDialog* dialog) {
@@ -250,25 +175,20 @@ void TestDialogs::check(const char* function)
             }
         };
     }
-    CallResult result;
-    QList<QJsonObject> events;
-    QVERIFY(run(function, args, QJsonDocument(all).toJson(), &result, look, &events));
+    const Answered a = answer(m_engine, function, args, withInspections(steps.toUtf8(), objects), look);
+    QVERIFY2(a.ok, qPrintable(a.failure));
     QStringList seen;
     for (const QString& f : facts) {
         const QString key = f.section(QLatin1Char('='), 0, 0);
         QString object, field;
-        QString value = looked.value(key);
-        if (inspectable(key, &object, &field)) {
-            for (const QJsonObject& e : events)
-                if (e.value(QLatin1String("inspect")) == object)
-                    value = factText(e.value(field));
-        }
+        const QString value = inspectable(key, &object, &field) ? a.inspectedText(object + '.' + field)
+                                                                 : looked.value(key);
         seen << key + QLatin1Char('=') + value;
     }
     QCOMPARE(seen, facts);
-    QCOMPARE(result.hasResult, hasResult);
+    QCOMPARE(a.result.hasResult, hasResult);
     if (hasResult)
-        QCOMPARE(textsOf(result), expected);
+        QCOMPARE(textsOf(a.result), expected);
 }
 
 // ------------------------------------------------------------ ListSubsetDialog
@@ -326,12 +246,12 @@ void TestDialogs::listSubsetDoubleClick()
                                list->visualItemRect(list->item(0)).center());
         }
     };
-    CallResult result;
-    QVERIFY(run("ListSubsetDialog", stringArgs({{"b", "a"}, {"c"}}),
-                R"([{"inspect": ""}, {"accept": true}])", &result, doubleClick));
+    const Answered a = answer(m_engine, "ListSubsetDialog", stringArgs({{"b", "a"}, {"c"}}),
+                              R"([{"inspect": ""}, {"accept": true}])", doubleClick);
+    QVERIFY2(a.ok, qPrintable(a.failure));
     // "a" went over, then the selected list's first item ("a" again, sorted
     // before "c") came back.
-    QCOMPARE(textsOf(result), (QStringList{"[selected]", "c", "[notselected]", "a", "b"}));
+    QCOMPARE(textsOf(a.result), (QStringList{"[selected]", "c", "[notselected]", "a", "b"}));
 }
 
 // --------------------------------------------------------------- Select2Dialog
@@ -481,9 +401,11 @@ void TestDialogs::tableEditorWidths()
     const QByteArray name = option.toLatin1();
     const auto widths = [&name] { return toQs(sp_GetStringOption(name.constData())).split('|'); };
 
-    CallResult result;
-    QVERIFY(run("TableEditor", args("Widths"), R"([{"cancel": true}])", &result));
-    QVERIFY(!result.hasResult);
+    const auto run = [this, &args](const char* title, const QByteArray& steps) {
+        return answer(m_engine, "TableEditor", args(title), steps);
+    };
+    const Answered cancelled = run("Widths", R"([{"cancel": true}])");
+    QVERIFY2(cancelled.ok && !cancelled.result.hasResult, qPrintable(cancelled.failure));
     QCOMPARE(widths().size(), 2);
     for (const QString& width : widths())
         QVERIFY2(width.toInt() > 0, qPrintable(width));
@@ -491,13 +413,14 @@ void TestDialogs::tableEditorWidths()
     // A remembered width wider than the contents is kept; a narrower one
     // gives way to the contents.
     sp_WriteOption(toYs(option), YString("300|3"));
-    QVERIFY(run("TableEditor", args("Widths"), R"([{"accept": true}])", &result));
-    QCOMPARE(textsOf(result), (QStringList{"a", "x"}));
+    const Answered kept = run("Widths", R"([{"accept": true}])");
+    QVERIFY2(kept.ok, qPrintable(kept.failure));
+    QCOMPARE(textsOf(kept.result), (QStringList{"a", "x"}));
     QCOMPARE(widths().size(), 2);
     QCOMPARE(widths().at(0), QStringLiteral("300"));
     QVERIFY2(widths().at(1).toInt() > 3, qPrintable(widths().at(1)));
 
-    QVERIFY(run("TableEditor", args("Other"), R"([{"accept": true}])", &result));
+    QVERIFY(run("Other", R"([{"accept": true}])").ok);
     bool found = false;
     sp_GetStringOption(widthsOption(QStringLiteral("OtherLeftRight")).toLatin1().constData(), &found);
     QVERIFY(found);

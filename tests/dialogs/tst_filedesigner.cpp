@@ -1,97 +1,24 @@
 // SaveSpecialDialog, TwoFileSelectionDialog and DialogDesigner called
-// through the engine on the built module and answered as a user would; and
-// the designer's items, XML reader and writer on their own.
-#include "designeritems.h"
+// through the engine on the built module and answered as a user would.
+#include "designertest.h"
 #include "designerxml.h"
 #include "dialogtest.h"
 #include "kitsupport.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
-#include <QDialog>
-#include <QElapsedTimer>
 #include <QFileDialog>
-#include <QGroupBox>
-#include <QLabel>
-#include <QLayout>
 #include <QMessageBox>
-#include <QSpacerItem>
-#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTreeWidget>
-#include <QVBoxLayout>
 #include <QtTest>
 
-#include <functional>
 #include <memory>
 
+using namespace designertest;
 using namespace dialogtest;
 
 namespace {
-
-// ------------------------------------------------------------------ facts
-
-QString describeTree(const QTreeWidgetItem* parent)
-{
-    QStringList parts;
-    for (int i = 0; i < parent->childCount(); ++i) {
-        const QTreeWidgetItem* item = parent->child(i);
-        QString text = item->text(0);
-        if (item->background(0).color() == QColor(255, 0, 0, 100))
-            text += QLatin1Char('!');
-        if (item->childCount())
-            text += QLatin1Char('{') + describeTree(item) + QLatin1Char('}');
-        parts << text;
-    }
-    return parts.join(QStringLiteral(", "));
-}
-
-bool allExpanded(const QTreeWidgetItem* parent)
-{
-    for (int i = 0; i < parent->childCount(); ++i) {
-        const QTreeWidgetItem* item = parent->child(i);
-        if ((item->childCount() && !item->isExpanded()) || !allExpanded(item))
-            return false;
-    }
-    return true;
-}
-
-// A preview as its layout holds it: "Group(G){Radio(a)}, Tabs{Tab(T){}}, spacer".
-QString describeLayout(const QLayout* layout);
-
-QString describeWidget(const QWidget* w)
-{
-    if (auto* box = qobject_cast<const QGroupBox*>(w))
-        return QStringLiteral("Group(%1){%2}").arg(box->title(), describeLayout(box->layout()));
-    if (auto* button = qobject_cast<const QAbstractButton*>(w))
-        return QStringLiteral("%1(%2)").arg(QString::fromLatin1(w->metaObject()->className()).mid(1),
-                                            button->text());
-    if (auto* tabs = qobject_cast<const QTabWidget*>(w)) {
-        QStringList pages;
-        for (int i = 0; i < tabs->count(); ++i)
-            pages << QStringLiteral("%1{%2}").arg(tabs->tabText(i),
-                                                  describeLayout(tabs->widget(i)->layout()));
-        return QStringLiteral("Tabs{%1}").arg(pages.join(QStringLiteral(", ")));
-    }
-    const QList<QLabel*> labels = w->findChildren<QLabel*>();
-    if (labels.size() == 2) // a spin box row: title, box, unit
-        return QStringLiteral("Spin(%1|%2)").arg(labels[0]->text(), labels[1]->text());
-    return QLatin1String(w->metaObject()->className());
-}
-
-QString describeLayout(const QLayout* layout)
-{
-    QStringList parts;
-    for (int i = 0; layout && i < layout->count(); ++i) {
-        QLayoutItem* item = layout->itemAt(i);
-        if (item->spacerItem())
-            parts << QStringLiteral("spacer");
-        else if (item->widget())
-            parts << describeWidget(item->widget());
-    }
-    return parts.join(QStringLiteral(", "));
-}
 
 // One fact about the dialog on screen, or a null string where it doesn't
 // apply. "windowTitle", "objectName": the dialog's; "obj.hidden",
@@ -183,37 +110,6 @@ private:
     QTimer m_timer;
 };
 
-QStringList messagesOf(const Answered& answered)
-{
-    QStringList out;
-    for (const QJsonObject& e : answered.eventsOf(QStringLiteral("messageBox"))) {
-        const QJsonObject box = e.value(QLatin1String("messageBox")).toObject();
-        out << box.value(QLatin1String("title")).toString() + QLatin1Char('|')
-                   + box.value(QLatin1String("text")).toString();
-    }
-    for (const QJsonObject& e : answered.eventsOf(QStringLiteral("help")))
-        out << QStringLiteral("help|") + e.value(QLatin1String("help")).toString();
-    return out;
-}
-
-// "inspect:obj.field=value": a field of the driver's inspect line for obj,
-// an array joined by "|".
-QString inspected(const Answered& answered, const QString& fact)
-{
-    const QString key = fact.mid(8).section(QLatin1Char('='), 0, 0);
-    const QJsonValue v = answered.inspected(key.section(QLatin1Char('.'), 0, -2))
-                             .value(key.section(QLatin1Char('.'), -1));
-    if (v.isArray()) {
-        QStringList parts;
-        for (const QJsonValue& part : v.toArray())
-            parts << part.toString();
-        return parts.join(QLatin1Char('|'));
-    }
-    if (v.isBool())
-        return QVariant(v.toBool()).toString();
-    return v.isNull() || v.isUndefined() ? QStringLiteral("null") : v.toVariant().toString();
-}
-
 QString setting(const QString& key)
 {
     char buffer[4096] = {};
@@ -225,44 +121,6 @@ QString setting(const QString& key)
 QString objectNameFor(const QString& key)
 {
     return QStringLiteral("TwoFileSelectionDialog_%1").arg(toYs(key).hashValue() % 1001u);
-}
-
-// ------------------------------------------------------- trees from text
-
-// "G[T R] C": a group holding a tab and a radio button, then a check box.
-// G group, R radio, T tab, C check box, S spin box, V spacer.
-DialogItem* makeItem(QChar code)
-{
-    switch (code.toLatin1()) {
-    case 'G': return new GroupItem(QStringLiteral("G"), nullptr);
-    case 'R': return new RadioButtonItem(QStringLiteral("R"), nullptr);
-    case 'T': return new TabItem(QStringLiteral("T"), nullptr);
-    case 'C': return new CheckBoxItem(QStringLiteral("C"), nullptr);
-    case 'S': return new SpinBoxItem(QStringLiteral("S"), QStringLiteral("V"), nullptr);
-    case 'V': return new VerticalSpacerItem(nullptr);
-    default: return nullptr;
-    }
-}
-
-void buildTree(QTreeWidget* tree, const QString& shape)
-{
-    QList<QTreeWidgetItem*> parents{tree->invisibleRootItem()};
-    QTreeWidgetItem* last = nullptr;
-    for (const QChar c : shape) {
-        if (c == QLatin1Char('[')) {
-            parents << last;
-        } else if (c == QLatin1Char(']')) {
-            parents.removeLast();
-        } else if (DialogItem* item = makeItem(c)) {
-            parents.last()->addChild(item);
-            last = item;
-        }
-    }
-}
-
-QString xmlOf(const QString& body)
-{
-    return QStringLiteral("<?xml version=\"1.0\"?>") + body + QLatin1Char('\n');
 }
 
 } // namespace
@@ -281,15 +139,6 @@ private slots:
     void twoFiles() { check("TwoFileSelectionDialog"); }
     void designer_data();
     void designer() { check("DialogDesigner"); }
-
-    void writeXml();
-    void readXml_data();
-    void readXml();
-    void readXmlHostile_data();
-    void readXmlHostile();
-    void placement_data();
-    void placement();
-    void preview();
 
 private:
     static void columns();
@@ -367,12 +216,16 @@ void TestFileDesigner::check(const char* function)
     for (const QString& f : facts) {
         QString values;
         if (f.startsWith(QLatin1String("inspect:")))
-            QCOMPARE(f.mid(8).section(QLatin1Char('='), 0, 0) + QLatin1Char('=') + inspected(answered, f),
+            QCOMPARE(f.mid(8).section(QLatin1Char('='), 0, 0) + QLatin1Char('=')
+                         + answered.inspectedText(f.mid(8).section(QLatin1Char('='), 0, 0)),
                      f.mid(8));
         else
             QVERIFY2(recorder.saw(f, &values), qPrintable(f + QStringLiteral(" but saw ") + values));
     }
-    QCOMPARE(messagesOf(answered), messages);
+    QStringList seen = answered.messages();
+    for (const QString& topic : answered.helpTopics())
+        seen << QStringLiteral("help|") + topic;
+    QCOMPARE(seen, messages);
     const CallResult& r = answered.result;
     if (result == QLatin1String("<none>")) {
         QVERIFY(!r.hasResult);
@@ -651,154 +504,6 @@ void TestFileDesigner::designer_data()
         << R"([{"choose": "treeWidget_Layout", "text": "Radio button: r"},
               {"menu": "treeWidget_Layout", "action": "Add Group"}])"
         << "<fails>no context menu opened" << QStringList() << QStringList() << QStringList();
-}
-
-// ------------------------------------------------------------ XML on its own
-
-void TestFileDesigner::writeXml()
-{
-    QTreeWidget tree;
-    buildTree(&tree, QStringLiteral("G[S] V"));
-    QCOMPARE(designer::writeXml(&tree),
-             xmlOf("<Dialog><Group title=\"G\"><SpinBox title=\"S\" unit=\"V\"/></Group>"
-                   "<VerticalSpacer/></Dialog>"));
-
-    // Titles with markup characters survive a round trip.
-    QTreeWidget odd;
-    const QString title = QStringLiteral("a \"b\" & <c> 'd' \u00e9");
-    odd.addTopLevelItem(new CheckBoxItem(title, nullptr));
-    odd.addTopLevelItem(new SpinBoxItem(QString(), QStringLiteral("\u03a9 & \""), nullptr));
-    const QList<DialogItem*> back = designer::readXml(designer::writeXml(&odd), nullptr);
-    QCOMPARE(back.size(), 2);
-    QCOMPARE(back[0]->title(), title);
-    QCOMPARE(static_cast<SpinBoxItem*>(back[1])->unit(), QStringLiteral("\u03a9 & \""));
-    qDeleteAll(back);
-}
-
-void TestFileDesigner::readXml_data()
-{
-    QTest::addColumn<QString>("xml");
-    QTest::addColumn<QStringList>("items"); // tree text of each item read, in order
-
-    QTest::newRow("nested tab and group come back flat, in document order")
-        << "<Dialog><Tab title=\"t\"><Group title=\"g\"><CheckBox title=\"c\"/></Group></Tab>"
-           "<SpinBox title=\"s\" unit=\"mV\"/></Dialog>"
-        << QStringList{"Tab: t", "Group: g", "Check box: c", "Spin Box: s"};
-    QTest::newRow("no Dialog root, other roots pass")
-        << "<Other><RadioButton title=\"r\"/></Other>" << QStringList{"Radio button: r"};
-    QTest::newRow("names are case-sensitive; spacers are not read")
-        << "<Dialog><checkbox title=\"x\"/><VerticalSpacer/></Dialog>" << QStringList();
-    QTest::newRow("absent attributes give empty titles")
-        << "<Dialog><Group/><Tab foo=\"1\"/></Dialog>" << QStringList{"Group: ", "Tab: "};
-    QTest::newRow("not XML") << "just words, no markup" << QStringList();
-    QTest::newRow("empty") << "" << QStringList();
-    QTest::newRow("second root is an error after the first")
-        << "<Dialog><CheckBox title=\"a\"/></Dialog><Dialog><CheckBox title=\"b\"/></Dialog>"
-        << QStringList{"Check box: a"};
-}
-
-void TestFileDesigner::readXml()
-{
-    QFETCH(QString, xml);
-    QFETCH(QStringList, items);
-    const QList<DialogItem*> read = designer::readXml(xml, nullptr);
-    QStringList texts;
-    for (const DialogItem* item : read)
-        texts << item->text(0);
-    qDeleteAll(read);
-    QCOMPARE(texts, items);
-}
-
-void TestFileDesigner::readXmlHostile_data()
-{
-    QTest::addColumn<QString>("xml");
-    QTest::addColumn<int>("count");
-
-    const int deep = 10000;
-    QTest::newRow("10,000 groups deep")
-        << QStringLiteral("<Group title=\"g\">").repeated(deep) + QStringLiteral("</Group>").repeated(deep)
-        << designer::kMaxReadItems;
-    QTest::newRow("10 MB of check boxes stops at the cap")
-        << QStringLiteral("<Dialog>") + QStringLiteral("<CheckBox title=\"c\"/>").repeated(500000)
-        << designer::kMaxReadItems;
-    QTest::newRow("one title of 10 MB")
-        << QStringLiteral("<Dialog><Tab title=\"") + QString(10 << 20, QLatin1Char('t'))
-               + QStringLiteral("\"/></Dialog>")
-        << 1;
-    QTest::newRow("unterminated attribute") << QStringLiteral("<Dialog><Tab title=\"abc") << 0;
-}
-
-void TestFileDesigner::readXmlHostile()
-{
-    QFETCH(QString, xml);
-    QFETCH(int, count);
-    QElapsedTimer clock;
-    clock.start();
-    const QList<DialogItem*> read = designer::readXml(xml, nullptr);
-    const int size = read.size();
-    qDeleteAll(read);
-    QCOMPARE(size, count);
-    QVERIFY2(clock.elapsed() < 10000, "reading took too long");
-}
-
-// ---------------------------------------------------- placement and preview
-
-void TestFileDesigner::placement_data()
-{
-    QTest::addColumn<QString>("shape");
-    QTest::addColumn<QString>("painted"); // "!" marks a red item
-    QTest::addColumn<bool>("expanded");
-
-    QTest::newRow("all in place")
-        << "G[R S V G[C]] T[G[R] C] V" << "Group: G{Radio button: R, Spin Box: S, Spacer, "
-                                          "Group: G{Check box: C}}, Tab: T{Group: G{Radio button: R}, "
-                                          "Check box: C}, Spacer"
-        << false;
-    QTest::newRow("tab in a group") << "G[T]" << "Group: G{Tab: T!}" << true;
-    QTest::newRow("tab in a tab") << "T[T[C]]" << "Tab: T{Tab: T!{Check box: C}}" << true;
-    QTest::newRow("anything under a leaf")
-        << "R[C] S[V] C[G] V[R]"
-        << "Radio button: R{Check box: C!}, Spin Box: S{Spacer!}, Check box: C{Group: G!}, "
-           "Spacer{Radio button: R!}"
-        << true;
-}
-
-void TestFileDesigner::placement()
-{
-    QFETCH(QString, shape);
-    QFETCH(QString, painted);
-    QFETCH(bool, expanded);
-    QTreeWidget tree;
-    buildTree(&tree, shape);
-    QCOMPARE(designer::checkPlacement(&tree), !painted.contains(QLatin1Char('!')));
-    QCOMPARE(describeTree(tree.invisibleRootItem()), painted);
-    QCOMPARE(allExpanded(tree.invisibleRootItem()), expanded || !painted.contains(QLatin1Char('{')));
-    for (QTreeWidgetItemIterator it(&tree); *it; ++it)
-        if (!(*it)->text(0).isEmpty() && !painted.contains((*it)->text(0) + QLatin1Char('!')))
-            QCOMPARE((*it)->background(0).color(), QColor(Qt::white));
-}
-
-// The preview follows the tree; every tab, wherever it stands, is a page of
-// one tab widget; spacers of an earlier build go.
-void TestFileDesigner::preview()
-{
-    QTreeWidget tree;
-    QWidget preview;
-    preview.setObjectName(QLatin1String(designer::kPreviewName));
-    new QVBoxLayout(&preview);
-    buildTree(&tree, QStringLiteral("T[C] G[T[R] S] V"));
-    designer::rebuildPreview(&tree, &preview);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCOMPARE(describeLayout(preview.layout()),
-             QStringLiteral("Tabs{T{CheckBox(C)}, T{RadioButton(R)}}, Group(G){Spin(S|V)}, spacer"));
-    QCOMPARE(preview.findChildren<QTabWidget*>().size(), 1);
-
-    tree.clear();
-    buildTree(&tree, QStringLiteral("C"));
-    designer::rebuildPreview(&tree, &preview);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCOMPARE(describeLayout(preview.layout()), QStringLiteral("CheckBox(C)"));
-    QVERIFY(preview.findChildren<QTabWidget*>().isEmpty());
 }
 
 QTEST_MAIN(TestFileDesigner)

@@ -22,35 +22,6 @@ Q_DECLARE_METATYPE(Args)
 
 namespace {
 
-// A fact "object.field" as the inspect step reported it: a list joined by
-// "|", a flag as "true" or "false".
-QString factValue(const QJsonObject& line, const QString& field)
-{
-    const QJsonValue v = line.value(field);
-    if (v.isArray()) {
-        QStringList texts;
-        for (const QJsonValue& item : v.toArray())
-            texts << item.toString();
-        return texts.join('|');
-    }
-    if (v.isBool())
-        return v.toBool() ? "true" : "false";
-    return v.isString() ? v.toString() : QStringLiteral("absent");
-}
-
-// The answer steps with an inspect step for each fact's object put in just
-// before the last step, which ends the dialog.
-QByteArray withInspections(const QString& steps, const QStringList& objects)
-{
-    QJsonArray array = QJsonDocument::fromJson(steps.toUtf8()).array();
-    const QJsonValue last = array.isEmpty() ? QJsonValue() : array.takeAt(array.size() - 1);
-    for (const QString& object : objects)
-        array.append(QJsonObject{{"inspect", object}});
-    if (!last.isUndefined() && !last.isNull())
-        array.append(last);
-    return QJsonDocument(array).toJson(QJsonDocument::Compact);
-}
-
 // A line of the result of MeasureDialog: the selected name, the three
 // pre-process boxes, and the custom tab's six elements.
 QStringList measureResult(const QString& name, const QString& boxes,
@@ -139,11 +110,7 @@ private:
 
 void TestMeasureStyles::initTestCase()
 {
-    if (qEnvironmentVariableIsEmpty("VANTRELL_CONFIG_DIR")) {
-        QVERIFY(m_config.isValid());
-        qputenv("VANTRELL_CONFIG_DIR", m_config.path().toLocal8Bit());
-    }
-    QVERIFY(loadModule(m_engine));
+    QVERIFY(loadModule(m_engine, &m_config));
     QVERIFY(m_files.isValid());
     m_logo = m_files.filePath("logo.png");
     QVERIFY(QImage::fromData(QByteArray::fromBase64(pngBase64().toLatin1()), "PNG").save(m_logo));
@@ -188,29 +155,17 @@ void TestMeasureStyles::check(const char* function)
 
     for (const QString& option : options)
         sp_WriteOption(toYs(option.section('=', 0, 0)), toYs(option.section('=', 1)));
-    QStringList objects;
-    for (const QString& f : facts)
-        if (!objects.contains(f.section('.', 0, 0)))
-            objects << f.section('.', 0, 0);
-
-    const Answered a = answer(m_engine, function, args, withInspections(steps, objects));
+    const Answered a = answer(m_engine, function, args,
+                              withInspections(steps.toUtf8(), objectsOf(facts), InspectAt::BeforeLast));
     QVERIFY2(a.ok, qPrintable(a.failure));
     QCOMPARE(a.result.hasResult, hasResult);
     if (hasResult)
         QCOMPARE(textsOf(a.result), expected);
     QStringList seen;
-    for (const QString& f : facts) {
-        const QString key = f.section('=', 0, 0);
-        seen << key + '=' + factValue(a.inspected(key.section('.', 0, 0)), key.section('.', 1));
-    }
+    for (const QString& f : facts)
+        seen << f.section('=', 0, 0) + '=' + a.inspectedText(f.section('=', 0, 0));
     QCOMPARE(seen, facts);
-
-    QStringList boxes;
-    for (const QJsonObject& e : a.eventsOf(QStringLiteral("messageBox"))) {
-        const QJsonObject box = e.value(QLatin1String("messageBox")).toObject();
-        boxes << box.value(QLatin1String("title")).toString() + '|' + box.value(QLatin1String("text")).toString();
-    }
-    QCOMPARE(boxes, messages);
+    QCOMPARE(a.messages(), messages);
 
     QStringList after;
     for (const QString& option : optionsAfter) {

@@ -41,11 +41,7 @@ private:
 
 void TestModelCreation::initTestCase()
 {
-    if (qEnvironmentVariableIsEmpty("VANTRELL_CONFIG_DIR")) {
-        QVERIFY(m_config.isValid());
-        qputenv("VANTRELL_CONFIG_DIR", m_config.path().toLocal8Bit());
-    }
-    QVERIFY(loadModule(m_engine));
+    QVERIFY(loadModule(m_engine, &m_config));
 }
 
 void TestModelCreation::cleanup()
@@ -201,9 +197,7 @@ void TestModelCreation::brelvonOptionsHelp()
     for (const QJsonObject& line : run.eventsOf(QStringLiteral("inspect")))
         hidden << line.value(QLatin1String("hidden")).toVariant().toString();
     QCOMPARE(hidden, (QStringList{"false", "true", "true", "true", "true"}));
-    const QList<QJsonObject> help = run.eventsOf(QStringLiteral("help"));
-    QCOMPARE(help.size(), 1);
-    QCOMPARE(help.first().value(QLatin1String("help")).toString(), QStringLiteral("10"));
+    QCOMPARE(run.helpTopics(), QStringList{"10"});
 }
 
 // --------------------------------------------------- CreatePowerInductorModel
@@ -310,13 +304,7 @@ void TestModelCreation::powerInductor()
     QCOMPARE(run.result.hasResult, !expected.isEmpty());
     if (!expected.isEmpty())
         QCOMPARE(textsOf(run.result), expected);
-    const QList<QJsonObject> boxes = run.eventsOf(QStringLiteral("messageBox"));
-    QCOMPARE(boxes.isEmpty(), message.isEmpty());
-    if (!message.isEmpty()) {
-        const QJsonObject box = boxes.first().value(QLatin1String("messageBox")).toObject();
-        QCOMPARE(box.value(QLatin1String("title")).toString(), QStringLiteral("Data Error"));
-        QCOMPARE(box.value(QLatin1String("text")).toString(), message);
-    }
+    QCOMPARE(run.messages(), message.isEmpty() ? QStringList() : QStringList{"Data Error|" + message});
     const QJsonObject shunt = run.inspected(QStringLiteral("editbox_ShuntR"));
     if (!shunt.isEmpty())
         QCOMPARE(shunt.value(QLatin1String("enabled")).toBool(), false);
@@ -491,11 +479,10 @@ void TestModelCreation::modelExtraction()
         const int index = element.section(QLatin1Char('='), 0, 0).toInt();
         QCOMPARE(QString::number(index) + QLatin1Char('=') + result.value(index), element);
     }
-    const QList<QJsonObject> boxes = run.eventsOf(QStringLiteral("messageBox"));
+    const QStringList boxes = run.messages();
     QCOMPARE(boxes.isEmpty(), message.isEmpty());
     if (!message.isEmpty())
-        QCOMPARE(boxes.first().value(QLatin1String("messageBox")).toObject().value(QLatin1String("title")).toString(),
-                 message);
+        QCOMPARE(boxes.first().section('|', 0, 0), message);
 }
 
 // The history keeps the model just used in front, as many entries as the

@@ -20,42 +20,6 @@ using namespace dialogtest;
 
 namespace {
 
-// A check on an answered call: "3=Gain" is result element 3, "none" no
-// result at all, "count=13" the result's length, and "object.key=value"
-// a field of the last inspect line of that object ("" the dialog),
-// "help=12" the topic of the last help request.
-void expect(const Answered& a, const QStringList& facts)
-{
-    const QStringList result = textsOf(a.result);
-    for (const QString& fact : facts) {
-        const QString key = fact.section(QLatin1Char('='), 0, 0);
-        const QString want = fact.section(QLatin1Char('='), 1);
-        if (fact == QLatin1String("none")) {
-            QVERIFY2(!a.result.hasResult, qPrintable(result.join(QLatin1Char(';'))));
-        } else if (key == QLatin1String("help")) {
-            const QList<QJsonObject> help = a.eventsOf(QStringLiteral("help"));
-            QVERIFY2(!help.isEmpty(), "no help request");
-            QCOMPARE(help.last().value(QLatin1String("help")).toVariant().toString(), want);
-        } else if (key == QLatin1String("count")) {
-            QCOMPARE(result.size(), want.toInt());
-        } else if (!key.contains(QLatin1Char('.'))) {
-            QVERIFY2(a.result.hasResult, qPrintable(fact));
-            const int index = key.toInt();
-            QVERIFY2(index < result.size(), qPrintable(fact));
-            QCOMPARE(result.at(index), want);
-        } else {
-            const QJsonObject seen = a.inspected(key.section(QLatin1Char('.'), 0, 0));
-            QVERIFY2(!seen.isEmpty(), qPrintable(QStringLiteral("not inspected: ") + fact));
-            const QJsonValue v = seen.value(key.section(QLatin1Char('.'), 1));
-            const QString got = v.isBool() ? QVariant(v.toBool()).toString()
-                                : v.isArray() ? v.toVariant().toStringList().join(QLatin1Char('|'))
-                                : v.isDouble() ? QString::number(v.toDouble())
-                                               : v.toString();
-            QCOMPARE(got, want);
-        }
-    }
-}
-
 // For dialogs the driver can't reach (one that stops being modal) or where
 // a test works a widget directly: finds the visible dialog of that name
 // among the top-level windows, lets act look at it and end it, and rejects
@@ -177,7 +141,7 @@ void TestProbes::check(const char* function)
     QFETCH(QStringList, facts);
     const Answered a = answer(m_engine, function, stringArgs(args), steps);
     QVERIFY2(a.ok, qPrintable(a.failure));
-    expect(a, facts);
+    QCOMPARE(factsSeen(a, facts), facts);
 }
 
 // ------------------------------------------------------------ Bode probes

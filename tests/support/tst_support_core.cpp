@@ -495,11 +495,8 @@ void TestSupportCore::extensions_data()
                                << QStringList{".sxsch", ".sch"};
     QTest::newRow("Component") << QByteArray("Component") << QByteArray("sxcmp")
                                << QStringList{".sxcmp"};
-    QTest::newRow("Symbol") << QByteArray("Symbol") << QByteArray("sxsym")
-                            << QStringList{".sxsym", ".sym"};
     QTest::newRow("Netlist") << QByteArray("Netlist") << QByteArray("net")
                              << QStringList{".net", ".cir", ".sp", ".spi"};
-    QTest::newRow("Init") << QByteArray("Init") << QByteArray("ini") << QStringList{".ini"};
     QTest::newRow("case matters") << QByteArray("schematic") << QByteArray() << QStringList();
     QTest::newRow("unknown") << QByteArray("Nothing") << QByteArray() << QStringList();
 }

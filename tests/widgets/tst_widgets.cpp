@@ -4,9 +4,11 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QDirIterator>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QPixmap>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
 #include <QToolButton>
@@ -47,7 +49,6 @@ class TestWidgets : public QObject {
 private slots:
     void cleanup();
     void formBindsAndOkIsDefault();
-    void resourcesRegistered_data();
     void resourcesRegistered();
     void spinnerKeepsText_data();
     void spinnerKeepsText();
@@ -118,39 +119,24 @@ void TestWidgets::formBindsAndOkIsDefault()
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
 }
 
-void TestWidgets::resourcesRegistered_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("size");
-    QTest::newRow("up arrow") << ":/16x16_uparrow_transparent_bg.png" << 16;
-    QTest::newRow("down arrow") << ":/16x16_downarrow_transparent_bg.png" << 16;
-    QTest::newRow("rising edge") << ":/16x16_rising_edge_no_frame.png" << 16;
-    QTest::newRow("falling edge") << ":/16x16_falling_edge_no_frame.png" << 16;
-    QTest::newRow("shift left") << ":/shift_left_32.png" << 64;
-    QTest::newRow("shift right") << ":/shift_right_32.png" << 64;
-    QTest::newRow("stop") << ":/stop.png" << 32;
-    QTest::newRow("options") << ":/options.png" << 32;
-    QTest::newRow("warn") << ":/qmessagebox-warn_transparent_bg.png" << 32;
-    QTest::newRow("quest") << ":/qmessagebox-quest_transparent_bg.png" << 32;
-    QTest::newRow("info") << ":/qmessagebox-info_transparent_bg.png" << 32;
-    QTest::newRow("adder") << ":/adder_32_0.png" << 64;
-    QTest::newRow("divider symbol d") << ":/divider_32_3.png" << 64;
-    QTest::newRow("multiplexer") << ":/mux_32_x_4.png" << 64;
-    QTest::newRow("clock breakout") << ":/global_clock_breakout.png" << 64;
-    QTest::newRow("pwm") << ":/epwm_beta1.png" << 64;
-    // Diode configurations and the tool tip pictures of model extraction.
-    QTest::newRow("bridge") << ":/bridge_1p0.png" << 48;
-    QTest::newRow("back-to-back zeners") << ":/zener_dual_clamp_1p0.png" << 48;
-    QTest::newRow("combo box pointer") << ":/combo_box_mouse_cursor_transparent.png" << 64;
-}
-
+// Every picture a form or a dialog names is in the host's resources.
 void TestWidgets::resourcesRegistered()
 {
-    QFETCH(QString, name);
-    QFETCH(int, size);
-    const QPixmap pixmap(name);
-    QCOMPARE(pixmap.size(), QSize(size, size));
-    QVERIFY(pixmap.hasAlpha());
+    const QRegularExpression name(QStringLiteral(":/[A-Za-z0-9_.-]+\\.png"));
+    QStringList named;
+    for (const char* dir : {"forms", "Dialogs"}) {
+        QDirIterator files(QStringLiteral(VT_SOURCE_DIR "/") + QLatin1String(dir), QDir::Files);
+        while (files.hasNext()) {
+            QFile file(files.next());
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            for (auto m = name.globalMatch(QString::fromUtf8(file.readAll())); m.hasNext();)
+                named << m.next().captured();
+        }
+    }
+    named.removeDuplicates();
+    QVERIFY2(named.size() > 40, qPrintable(named.join(' ')));
+    for (const QString& image : qAsConst(named))
+        QVERIFY2(!QPixmap(image).isNull(), qPrintable(image));
 }
 
 void TestWidgets::spinnerKeepsText_data()
