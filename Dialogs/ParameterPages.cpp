@@ -78,11 +78,6 @@ QStringList splitDescriptor(const QString& descriptor)
     return padded(fields);
 }
 
-int atoiText(const QString& text)
-{
-    return dialogcommon::leadingInt(text);
-}
-
 QString replaceUnitPlaceholders(const QString& unit)
 {
     QString text = unit;
@@ -194,22 +189,22 @@ void ParameterPageSpec::parseGroups(const QStringList& groups, const QStringList
             g.checked = true;
             if (!checkField.isEmpty()) {
                 g.isPlain = false;
-                const int index = atoiText(checkField);
+                const int index = dialogcommon::leadingInt(checkField);
                 if (index >= 0 && index < values.size())
-                    g.checked = atoiText(values.at(index)) != 0;
+                    g.checked = dialogcommon::leadingInt(values.at(index)) != 0;
             }
         }
         g.title = fields.at(2);
-        g.firstRow = atoiText(fields.at(3));
-        g.firstColumn = atoiText(fields.at(4));
-        g.lastRow = fields.at(5).isEmpty() ? g.firstRow : atoiText(fields.at(5));
-        g.lastColumn = fields.at(6).isEmpty() ? g.firstColumn : atoiText(fields.at(6));
+        g.firstRow = dialogcommon::leadingInt(fields.at(3));
+        g.firstColumn = dialogcommon::leadingInt(fields.at(4));
+        g.lastRow = fields.at(5).isEmpty() ? g.firstRow : dialogcommon::leadingInt(fields.at(5));
+        g.lastColumn = fields.at(6).isEmpty() ? g.firstColumn : dialogcommon::leadingInt(fields.at(6));
         if (!checkField.isEmpty()) {
-            const int index = atoiText(checkField);
+            const int index = dialogcommon::leadingInt(checkField);
             g.elementIndex = index >= 0 && index <= kMaxElementIndex ? index : -1;
         }
-        g.separatedColumns = atoiText(fields.at(8)) != 0;
-        const int width = atoiText(fields.at(9));
+        g.separatedColumns = dialogcommon::leadingInt(fields.at(8)) != 0;
+        const int width = dialogcommon::leadingInt(fields.at(9));
         g.separatorWidth = width > 0 ? width : 6;
 
         m_maxFirstRow = m_groups.empty() ? g.firstRow : qMax(m_maxFirstRow, g.firstRow);
@@ -230,8 +225,8 @@ void ParameterPageSpec::parseParameters(const QStringList& params, const QString
         p.unitText = fields.at(5);
         p.tab = orDefaultTab(fields.at(0));
         p.group = fields.at(1);
-        p.row = atoiText(fields.at(3));
-        p.column = atoiText(fields.at(4));
+        p.row = dialogcommon::leadingInt(fields.at(3));
+        p.column = dialogcommon::leadingInt(fields.at(4));
         p.toolTip = fields.at(9);
         p.takesFocus = position == 0;
         p.kind = kindOfKeyword(fields.at(6), &p.isGroupLike);
@@ -291,7 +286,7 @@ int descriptorSignature(const QStringList& params, const QStringList& info, int 
 
 int helpTopicOf(const QStringList& info, int index)
 {
-    return index >= 0 && index < info.size() ? atoiText(info.at(index)) : -1;
+    return index >= 0 && index < info.size() ? dialogcommon::leadingInt(info.at(index)) : -1;
 }
 
 void runHelpTopic(int topic)

@@ -142,9 +142,6 @@ private:
 // The ten fields of a descriptor: "\\:" is a literal colon, fields behind
 // the tenth are dropped, missing ones are empty.
 QStringList splitDescriptor(const QString& descriptor);
-// atoi as C reads it (leading blanks, sign, digits, stop at the first
-// other character), saturated to the int range instead of undefined.
-int atoiText(const QString& text);
 // "__Ohms__", "__degrees__", "__micro__", "__Mho__" as their characters.
 QString replaceUnitPlaceholders(const QString& unit);
 // The kind a type keyword names, and whether it is one of the groups.

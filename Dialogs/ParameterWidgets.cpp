@@ -113,7 +113,7 @@ bool boolValue(const QString& value)
         return true;
     if (value.compare(QLatin1String("false"), Qt::CaseInsensitive) == 0)
         return false;
-    return atoiText(value) != 0;
+    return dialogcommon::leadingInt(value) != 0;
 }
 
 void takeFocus(QWidget* control)
@@ -348,7 +348,7 @@ QWidget* createParameterControl(const ParameterPageSpec& spec, QWidget* parent, 
         auto* box = new GroupBox(parent);
         box->setTitle(d.name);
         box->setCheckable(true);
-        box->setChecked(atoiText(d.value) != 0);
+        box->setChecked(dialogcommon::leadingInt(d.value) != 0);
         box->setOutElementIndex(d.elementIndex);
         control = box;
         break;

@@ -251,12 +251,13 @@ YString sp_GetCwd()
     return toYs(QDir::currentPath());
 }
 
-// True for an existing file or directory (anything that exists).
+// True for an existing file, through links. A directory is no file: a
+// tool asking for its input file wants something it can open and read.
 bool sp_ExistFile(const char* path)
 {
     if (!path || !*path)
         return false;
-    return QFileInfo::exists(QString::fromLocal8Bit(path));
+    return QFileInfo(QString::fromLocal8Bit(path)).isFile();
 }
 
 namespace {

@@ -103,6 +103,9 @@ void TestBindings::walker_data()
     QTest::newRow("checked by atoi, GroupBox 0 is unchecked")
         << "basic" << Calls{{"1", "x", "7abc", "0", "1"}}
         << QStringList{"1", "x", "1", "0", "1", "", "form text", "mine"} << QStringList{};
+    QTest::newRow("a number past int is still not 0")
+        << "basic" << Calls{{"1", "x", "4294967296", "-99999999999999999999"}}
+        << QStringList{"1", "x", "1", "1", "-1", "", "form text", "mine"} << QStringList{};
     QTest::newRow("visible widget wins on a shared element, else the later")
         << "shared" << Calls{} << QStringList{"A", "B", "B", "B"} << QStringList{};
     QTest::newRow("combo and list with items from the call")

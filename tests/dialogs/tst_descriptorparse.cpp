@@ -1,6 +1,7 @@
 // The descriptor parser and the widget factory of parameter pages, on their
 // own: strings in, descriptors and widgets out, no dialog.
 #include "ParameterPages.h"
+#include "dialogcommon.h"
 
 #include "hostwidgets.h"
 
@@ -80,7 +81,7 @@ void TestDescriptorParse::atoiLikeC()
 {
     QFETCH(QString, text);
     QFETCH(int, value);
-    QCOMPARE(atoiText(text), value);
+    QCOMPARE(dialogcommon::leadingInt(text), value);
 }
 
 void TestDescriptorParse::tabTitles_data()

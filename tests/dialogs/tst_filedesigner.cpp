@@ -337,13 +337,14 @@ void TestFileDesigner::twoFiles_data()
         << in + "|" + missing + "||1"
         << QStringList{"fileDialog.filters=Netlist Files (*.net *.cir *.sp *.spi)"}
         << QStringList() << QStringList();
+    const QStringList inputMissing{
+        "Error: Input file doesn't exist|The input file doesn't exist on disk. Check the path "
+        "and/or click on the <b>Select...</b> button to locate the input file."};
     QTest::newRow("missing input: error, dialog stays, nothing written")
         << stringArgs({{missing, "o.net", "d"}, {}, keys}) << QStringList()
         << R"([{"accept": true}, {"message": "OK"}, {"cancel": true}])" << "<none>"
         << QStringList()
-        << QStringList{"Error: Input file doesn't exist|The input file doesn't exist on disk. "
-                       "Check the path and/or click on the <b>Select...</b> button to locate "
-                       "the input file."}
+        << inputMissing
         << QStringList{noHistory, "out=<none>", "desc=<none>", "open=<none>"};
     QTest::newRow("Ok stores histories newest first, at most ten, and the check box")
         << stringArgs({{in, "new.net", "run 3"}, {}, keys})
@@ -362,10 +363,10 @@ void TestFileDesigner::twoFiles_data()
         << in + "|||1"
         << QStringList{"comboBoxInputFile.items=" + in + "|" + thousands.mid(0, 10).join('|')}
         << QStringList() << QStringList{"in=" + in + ";" + thousands.mid(0, 9).join(';')};
-    QTest::newRow("a directory passes the host's file test")
-        << stringArgs({{dir, dir + ";b"}, {}, keys}) << QStringList() << accept
-        << dir + "|" + dir + ";b||1" << QStringList() << QStringList()
-        << QStringList{"out=" + dir + ";b"};
+    QTest::newRow("a directory is no input file")
+        << stringArgs({{dir, "o.net"}, {}, keys}) << QStringList()
+        << R"([{"accept": true}, {"message": "OK"}, {"cancel": true}])" << "<none>"
+        << QStringList() << inputMissing << QStringList{noHistory, "out=<none>"};
     QTest::newRow("element 3 overrides the stored check box")
         << stringArgs({{in, "", "", "1"}, {}, keys}) << QStringList{"open=0"} << accept
         << in + "|||1" << QStringList() << QStringList() << QStringList{"open=1"};

@@ -91,6 +91,13 @@ void TestTextFunctions::split_data()
                                             << true << QByteArrayList{"a;b", "c"};
     QTest::newRow("scan pads") << "ScanEscape" << QByteArrayList{"a;b", ";"} << 4 << true
                                << QByteArrayList{"a", "b", "", ""};
+    // More copies than one block of the host's DupString holds, with a
+    // part too long to share a block among them.
+    QByteArrayList many;
+    for (int i = 0; i < 20000; ++i)
+        many << (i == 7000 ? QByteArray(20000, 'L') : "w" + QByteArray::number(i));
+    QTest::newRow("parse many parts, one long") << "ParseEscape" << QByteArrayList{many.join(' ')} << -1
+                                                << true << many;
     QTest::newRow("scan pad below parts") << "ScanEscape" << QByteArrayList{"a;b;c", ";"} << 2
                                           << true << QByteArrayList{"a", "b", "c"};
 }

@@ -522,6 +522,7 @@ void TestSupportCore::filesAndClipboard()
     QVERIFY(sp_ExistFile(file.fileName().toLocal8Bit().constData()));
     QVERIFY(!sp_ExistFile((file.fileName() + ".missing").toLocal8Bit().constData()));
     QVERIFY(!sp_ExistFile(nullptr) && !sp_ExistFile(""));
+    QVERIFY(!sp_ExistFile(QDir::tempPath().toLocal8Bit().constData()));
 
     // Without a GUI application there is no clipboard; the text stays.
     YString text("keep");
