@@ -264,8 +264,10 @@ bool EditBrelvonFilter::canCalculateFrom(const QList<Spinner*>& sources) const
     const double fs = samplingFrequency();
     if (isExpression(m_ui->spinnerFSampling) || !(fs > 0.0) || !std::isfinite(fs))
         return false;
+    // An expression is the host's to evaluate; a coefficient that is no
+    // finite number would only turn every result into NaN.
     for (const Spinner* spinner : sources)
-        if (isExpression(spinner))
+        if (isExpression(spinner) || !std::isfinite(spinner->value()))
             return false;
     return true;
 }

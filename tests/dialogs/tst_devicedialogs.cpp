@@ -389,6 +389,9 @@ void TestDeviceDialogs::filterOpens_data()
         << Facts{{"toolButtonCalculateZ.enabled", "false"}, {"toolButtonCalculateS.enabled", "true"}};
     QTest::newRow("a second-order-only expression is ignored at first order")
         << filterArray({{1, "1"}, {8, "{k}"}}) << Facts{{"toolButtonCalculateZ.enabled", "true"}};
+    QTest::newRow("a coefficient that is no finite number disables its direction")
+        << filterArray({{9, "nan"}, {4, "1e999"}})
+        << Facts{{"toolButtonCalculateZ.enabled", "false"}, {"toolButtonCalculateS.enabled", "false"}};
     QTest::newRow("sampling frequency 0 disables both")
         << filterArray({{14, "0"}})
         << Facts{{"toolButtonCalculateZ.enabled", "false"}, {"toolButtonCalculateS.enabled", "false"}};
