@@ -239,6 +239,15 @@ private slots:
         QTest::newRow("starting on the level") << std::vector<double>{1, 2, 0, 2} << 1.0 << 1
                                                << std::vector<double>{2.5};
         QTest::newRow("flat") << std::vector<double>{1, 1, 1} << 1.0 << 0 << std::vector<double>{};
+        // Long enough to be tested four segments at a time, crossings at
+        // every place in a group, NaN crossing nothing.
+        std::vector<double> saw, sawCrossings;
+        for (int i = 0; i < 41; ++i) {
+            saw.push_back(i % 5 != 4 ? 0.0 : i < 30 ? 3.0 : std::nan(""));
+            if (i % 5 == 3 && i < 30)
+                sawCrossings.push_back(i + 1.0 / 3);
+        }
+        QTest::newRow("many, in groups of four") << saw << 1.0 << 1 << sawCrossings;
     }
     void xFromY()
     {
