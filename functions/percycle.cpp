@@ -7,6 +7,10 @@
 #include <algorithm>
 #include <cmath>
 
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
 namespace {
 
 constexpr double kMinPeriod = 1e-15;
@@ -91,28 +95,45 @@ bool checkAndExtremes(const double* x, long long n, const double* ref, long long
                       double* low, double* high)
 {
     const double x0 = x[0];
-    long long notAfterFirst = 0;
-    double lo[2] = {ref[0], ref[0]};
-    double hi[2] = {ref[0], ref[0]};
+    bool notAfterFirst = false;
+    double lo = ref[0];
+    double hi = ref[0];
     const long long both = std::min(n, refCount);
     long long i = 1;
-    for (; i + 2 <= both; i += 2) {
-        for (int k = 0; k < 2; ++k) {
-            const double v = ref[i + k];
-            notAfterFirst += !(x[i + k] > x0);
-            lo[k] = v < lo[k] ? v : lo[k];
-            hi[k] = v > hi[k] ? v : hi[k];
-        }
+#if defined(__SSE2__)
+    // Two values a register, two registers a step. A comparison with NaN
+    // is false, as in the scalar form below: "not greater" catches a NaN x,
+    // and min and max keep the value they hold against a NaN.
+    const __m128d first = _mm_set1_pd(x0);
+    __m128d lo0 = _mm_set1_pd(lo), lo1 = lo0, hi0 = lo0, hi1 = lo0;
+    __m128d bad = _mm_setzero_pd();
+    for (; i + 4 <= both; i += 4) {
+        const __m128d r0 = _mm_loadu_pd(ref + i), r1 = _mm_loadu_pd(ref + i + 2);
+        lo0 = _mm_min_pd(r0, lo0);
+        lo1 = _mm_min_pd(r1, lo1);
+        hi0 = _mm_max_pd(r0, hi0);
+        hi1 = _mm_max_pd(r1, hi1);
+        bad = _mm_or_pd(bad, _mm_or_pd(_mm_cmpngt_pd(_mm_loadu_pd(x + i), first),
+                                       _mm_cmpngt_pd(_mm_loadu_pd(x + i + 2), first)));
     }
+    notAfterFirst = _mm_movemask_pd(bad) != 0;
+    lo0 = _mm_min_pd(lo0, lo1);
+    hi0 = _mm_max_pd(hi0, hi1);
+    lo = std::min(_mm_cvtsd_f64(lo0), _mm_cvtsd_f64(_mm_unpackhi_pd(lo0, lo0)));
+    hi = std::max(_mm_cvtsd_f64(hi0), _mm_cvtsd_f64(_mm_unpackhi_pd(hi0, hi0)));
+#endif
     for (long long k = i; k < n; ++k)
-        notAfterFirst += !(x[k] > x0);
-    double restLow = lo[0];
-    double restHigh = hi[0];
-    if (i < refCount)
+        notAfterFirst |= !(x[k] > x0);
+    if (i < refCount) {
+        double restLow = lo;
+        double restHigh = hi;
         extremes(ref + i, refCount - i, &restLow, &restHigh);
-    *low = std::min(std::min(lo[0], lo[1]), restLow);
-    *high = std::max(std::max(hi[0], hi[1]), restHigh);
-    return notAfterFirst == 0;
+        lo = std::min(lo, restLow);
+        hi = std::max(hi, restHigh);
+    }
+    *low = lo;
+    *high = hi;
+    return !notAfterFirst;
 }
 
 void notify(UserFunctionInterface* ufi)

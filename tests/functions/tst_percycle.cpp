@@ -283,6 +283,11 @@ void TestPerCycle::cases_data()
     QTest::newRow("x not above the first")
         << value << stat(ScriptValue::waveform({1, 2, 3}, {0, 1, 0}), reals({0}), "mean", smooth)
         << Edges{{0, 1}} << false << none;
+    QTest::newRow("x not above the first, far from the start")
+        << value
+        << stat(ScriptValue::waveform({0, 1, 0, 1, 0, 1, 0, 1, 0, 1, 0, 1}, {0, 1, 2, 3, 4, 5, 0, 7, 8, 9, 10, 11}),
+                reals({0}), "mean", smooth)
+        << Edges{{0, 1}} << false << none;
     QTest::newRow("value, XfromY fails")
         << value << stat(ramp(), reals({0}), "mean", smooth) << Edges{Reals{}} << false << none;
 
