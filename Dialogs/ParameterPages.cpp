@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <climits>
-#include <cstdio>
 
 namespace parameterpages {
 
@@ -168,14 +167,11 @@ void ParameterPageSpec::parseGroups(const QStringList& groups, const QStringList
 {
     m_groups.reserve(static_cast<std::size_t>(groups.size()));
     for (int position = 0; position < groups.size(); ++position) {
-        // The host's own split has the last word on a group's fields, so an
-        // escaped colon is the host's to honour here, not ours.
-        QStringList fields = splitDescriptor(groups.at(position));
+        // A group's fields come from the host's own split, which knows no
+        // escaped colon: "\\:" in a group descriptor splits like ":".
         YArray<YString> hostFields;
-        for (const QString& field : fields)
-            hostFields.add(toYs(field));
         sp_SplitLine(Tocs(groups.at(position)), ':', &hostFields, kFieldCount);
-        fields.clear();
+        QStringList fields;
         for (long long i = 0; i < hostFields.count(); ++i)
             fields << toQs(hostFields[i]);
         fields = padded(fields);
@@ -185,13 +181,13 @@ void ParameterPageSpec::parseGroups(const QStringList& groups, const QStringList
         g.tab = orDefaultTab(fields.at(0));
         const QString& kind = fields.at(1);
         const QString& checkField = fields.at(7);
+        const int checkIndex = dialogcommon::leadingInt(checkField);
         if (isKeyword(kind, "groupcheck") || isKeyword(kind, "check")) {
             g.checked = true;
             if (!checkField.isEmpty()) {
                 g.isPlain = false;
-                const int index = dialogcommon::leadingInt(checkField);
-                if (index >= 0 && index < values.size())
-                    g.checked = dialogcommon::leadingInt(values.at(index)) != 0;
+                if (checkIndex >= 0 && checkIndex < values.size())
+                    g.checked = dialogcommon::leadingInt(values.at(checkIndex)) != 0;
             }
         }
         g.title = fields.at(2);
@@ -199,10 +195,8 @@ void ParameterPageSpec::parseGroups(const QStringList& groups, const QStringList
         g.firstColumn = dialogcommon::leadingInt(fields.at(4));
         g.lastRow = fields.at(5).isEmpty() ? g.firstRow : dialogcommon::leadingInt(fields.at(5));
         g.lastColumn = fields.at(6).isEmpty() ? g.firstColumn : dialogcommon::leadingInt(fields.at(6));
-        if (!checkField.isEmpty()) {
-            const int index = dialogcommon::leadingInt(checkField);
-            g.elementIndex = index >= 0 && index <= kMaxElementIndex ? index : -1;
-        }
+        if (!checkField.isEmpty())
+            g.elementIndex = checkIndex >= 0 && checkIndex <= kMaxElementIndex ? checkIndex : -1;
         g.separatedColumns = dialogcommon::leadingInt(fields.at(8)) != 0;
         const int width = dialogcommon::leadingInt(fields.at(9));
         g.separatorWidth = width > 0 ? width : 6;
@@ -291,10 +285,7 @@ int helpTopicOf(const QStringList& info, int index)
 
 void runHelpTopic(int topic)
 {
-    char buffer[16];
-    std::snprintf(buffer, sizeof buffer, "%d", topic);
-    int local = 0;
-    sp_RunHelp(RunHelpContext, buffer, &local, nullptr);
+    dialogcommon::runHelp(topic);
 }
 
 int gridIndex(int value)

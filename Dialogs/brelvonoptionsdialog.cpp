@@ -326,8 +326,7 @@ QString BrelvonOptionsDialog::helpTopic() const
 
 void BrelvonOptionsDialog::runHelp()
 {
-    int local = 0;
-    sp_RunHelp(RunHelpContext, Tocs(helpTopic()), &local, nullptr);
+    dialogcommon::runHelp(helpTopic());
 }
 
 void BrelvonOptionsDialog::tabWidgetModelExtraction_tabChanged()

@@ -60,4 +60,16 @@ inline void setStringResult(UserFunctionInterface* call, const QStringList& text
         out[i] = call->DupString(Tocs(texts.at(i)));
 }
 
+// Opens the host's help at a topic: its text, or a number in decimal.
+inline void runHelp(const QString& topic)
+{
+    int unused = 0;
+    sp_RunHelp(RunHelpContext, Tocs(topic), &unused, nullptr);
+}
+
+inline void runHelp(int topic)
+{
+    runHelp(QString::number(topic));
+}
+
 } // namespace dialogcommon

@@ -19,7 +19,6 @@
 #include <QShowEvent>
 
 #include <cmath>
-#include <cstdio>
 #include <memory>
 #include <new>
 #include <vector>
@@ -238,10 +237,7 @@ void EditBodePlotProbeDialog2::showEvent(QShowEvent* event)
 
 void EditBodePlotProbeDialog2::helpButton_clicked()
 {
-    char topic[16];
-    std::snprintf(topic, sizeof topic, "%d", m_helpTopic);
-    int unused = 0;
-    sp_RunHelp(RunHelpContext, topic, &unused, nullptr);
+    dialogcommon::runHelp(m_helpTopic);
 }
 
 QColor EditBodePlotProbeDialog2::previewColour(const QCheckBox* useDefault, const Spinner* number,

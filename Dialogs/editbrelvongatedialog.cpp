@@ -238,8 +238,7 @@ void EditBRELVONGateDialog::numberOfInvertedLogicInputsCombo_activated(const QSt
 
 void EditBRELVONGateDialog::helpButton_clicked()
 {
-    int local = 0;
-    sp_RunHelp(RunHelpContext, Tocs(helpTopic(selectedType())), &local, nullptr);
+    dialogcommon::runHelp(helpTopic(selectedType()));
 }
 
 void EditBRELVONGateDialog::showEvent(QShowEvent* event)

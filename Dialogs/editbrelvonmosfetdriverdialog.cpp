@@ -185,8 +185,7 @@ void EditBrelvonMosfetDriverDialog::onradiogroupLevelContextMenu(const QPoint& p
 
 void EditBrelvonMosfetDriverDialog::runHelp()
 {
-    int unused = 0;
-    sp_RunHelp(RunHelpContext, Tocs(m_helpTopic), &unused, nullptr);
+    dialogcommon::runHelp(m_helpTopic);
 }
 
 namespace {

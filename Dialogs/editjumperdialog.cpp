@@ -96,8 +96,7 @@ void EditJumperDialog::jumperPositionGroup_clicked(int id)
 
 void EditJumperDialog::helpButton_clicked()
 {
-    int local = 0;
-    sp_RunHelp(RunHelpContext, Tocs(QString::number(m_helpContext)), &local, nullptr);
+    dialogcommon::runHelp(m_helpContext);
 }
 
 void EditJumperDialog::showEvent(QShowEvent* event)

@@ -77,19 +77,6 @@ bool holdsBraces(const QString& text)
     return text.contains(QLatin1Char('{')) || text.contains(QLatin1Char('}'));
 }
 
-// The strings of a string record, null elements read as "".
-QStringList textsOf(const ArgRecord& record)
-{
-    QStringList out;
-    const auto* data = static_cast<const char* const*>(record.data);
-    if (!data || record.kind != ArgKindStrings)
-        return out;
-    out.reserve(int(qMin<std::uint32_t>(record.count, 1u << 24)));
-    for (std::uint32_t i = 0; i < record.count; ++i)
-        out << QString::fromLatin1(data[i] ? data[i] : "");
-    return out;
-}
-
 } // namespace
 
 class EditMultiLevelInductorCapacitorDialog : public QDialog {
@@ -342,9 +329,7 @@ void EditMultiLevelInductorCapacitorDialog::loadDialog()
 
 void EditMultiLevelInductorCapacitorDialog::runHelp()
 {
-    const QByteArray topic = QByteArray::number(m_helpContext);
-    int unused = 0;
-    sp_RunHelp(RunHelpContext, topic.constData(), &unused, nullptr);
+    dialogcommon::runHelp(m_helpContext);
 }
 
 // Widgets of a higher level are disabled, not hidden, and their values go
@@ -416,7 +401,7 @@ void EditMultiLevelInductorCapacitorDialog::toolButtonDefinePWL_clicked()
     if (result.count == 0 || !result.data || result.kind != ArgKindStrings)
         return;
     m_call->args[0] = result;
-    m_pwlText = pwltext::write(textsOf(result));
+    m_pwlText = pwltext::write(dialogcommon::stringArg(m_call, 0));
 }
 
 void EditMultiLevelInductorCapacitorDialog::accept()

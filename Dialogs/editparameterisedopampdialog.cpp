@@ -199,9 +199,7 @@ void EditParameterisedOpampDialog::showEvent(QShowEvent* event)
 
 void EditParameterisedOpampDialog::runHelp()
 {
-    const QByteArray topic = QByteArray::number(m_helpContext);
-    int unused = 0;
-    sp_RunHelp(RunHelpContext, topic.constData(), &unused, nullptr);
+    dialogcommon::runHelp(m_helpContext);
 }
 
 // A disabled group's values still go out.

@@ -13,7 +13,6 @@
 #include <QLayout>
 #include <QShowEvent>
 
-#include <cstdio>
 #include <memory>
 #include <new>
 
@@ -367,10 +366,7 @@ void EfficiencyDialog::formAccepted()
 
 void EfficiencyDialog::runHelp()
 {
-    char topic[16];
-    std::snprintf(topic, sizeof topic, "%d", m_helpTopic);
-    int unused = 0;
-    sp_RunHelp(RunHelpContext, topic, &unused, nullptr);
+    dialogcommon::runHelp(m_helpTopic);
 }
 
 QDialog* createEfficiencyDialog(UserFunctionInterface* call, void* /*unused*/)

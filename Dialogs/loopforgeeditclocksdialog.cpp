@@ -11,7 +11,6 @@
 #include <QHeaderView>
 #include <QTableWidget>
 
-#include <cstdio>
 #include <memory>
 
 namespace {
@@ -232,10 +231,7 @@ void LoopForgeEditClocksDialog::simulate()
 
 void LoopForgeEditClocksDialog::helpButtonClicked()
 {
-    char topic[16];
-    std::snprintf(topic, sizeof topic, "%d", m_helpTopic);
-    int unused = 0;
-    sp_RunHelp(RunHelpContext, topic, &unused, nullptr);
+    dialogcommon::runHelp(m_helpTopic);
 }
 
 void LoopForgeEditClocksDialog::tableValueChanged(int row, int column)

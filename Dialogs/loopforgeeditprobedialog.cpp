@@ -224,8 +224,7 @@ void LoopForgeEditProbeDialog::runHelp()
 {
     if (!m_hasHelpTopic)
         return;
-    int unused = 0;
-    sp_RunHelp(RunHelpContext, m_helpTopic.toLatin1().constData(), &unused, nullptr);
+    dialogcommon::runHelp(m_helpTopic);
 }
 
 void LoopForgeEditProbeDialog::loadToolTips()

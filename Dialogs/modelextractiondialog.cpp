@@ -183,8 +183,7 @@ void ModelExtractionDialog::load(UserFunctionInterface* call)
     m_ui->labelUser0->setToolTip(labelTip);
     m_ui->editBoxUser0->setToolTip(labelTip);
 
-    for (int arg = 0; arg < ArgCount; ++arg)
-        m_args[arg] = dialogcommon::stringArg(call, arg);
+    parameterpages::readArguments(call, m_args, ArgCount);
     for (const QString& name : m_args[ArgModels])
         m_modelNames.push_back(name.toLatin1());
     const QStringList& values = m_args[ArgValues];
@@ -641,8 +640,7 @@ void ModelExtractionDialog::formAccepted()
 
 void ModelExtractionDialog::runHelp()
 {
-    int local = 0;
-    sp_RunHelp(RunHelpContext, QByteArray::number(m_helpTopic).constData(), &local, nullptr);
+    parameterpages::runHelpTopic(m_helpTopic);
 }
 
 namespace {

@@ -1,5 +1,6 @@
 #include "shuntresistancecalculatordialog.h"
 
+#include "dialogcommon.h"
 #include "hostsupport.h"
 
 #include "ui_shuntresistancecalculatordialog.h"
@@ -42,9 +43,7 @@ ShuntResistanceCalculatorDialog::~ShuntResistanceCalculatorDialog() = default;
 // help topic of its own.
 void ShuntResistanceCalculatorDialog::runHelp()
 {
-    const QByteArray topic = QByteArray::number(m_helpContext);
-    int unused = 0;
-    sp_RunHelp(RunHelpContext, topic.constData(), &unused, nullptr);
+    dialogcommon::runHelp(m_helpContext);
 }
 
 void ShuntResistanceCalculatorDialog::loadDialog(const QString& inductance, bool inductanceEditable)

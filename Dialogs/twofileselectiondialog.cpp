@@ -352,8 +352,7 @@ void TwoFileSelectionDialog::validateReturns()
 
 void TwoFileSelectionDialog::helpButton_clicked()
 {
-    int unused = 0;
-    sp_RunHelp(RunHelpContext, Tocs(m_helpTopic), &unused, nullptr);
+    dialogcommon::runHelp(m_helpTopic);
 }
 
 namespace {

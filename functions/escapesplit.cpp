@@ -32,10 +32,7 @@ int padCount(double value)
 
 void splitEscaped(UserFunctionInterface* ufi, SplitMode mode)
 {
-    const ArgRecord* textArg = callargs::present(ufi, 0);
-    if (!textArg)
-        return;
-    const char* textBytes = static_cast<char* const*>(textArg->data)[0];
+    const char* textBytes = callargs::text(ufi, 0);
     if (!textBytes || !*textBytes)
         return;
 

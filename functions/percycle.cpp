@@ -125,8 +125,8 @@ bool checkAndExtremes(const double* x, long long n, const double* ref, long long
     for (long long k = i; k < n; ++k)
         notAfterFirst |= !(x[k] > x0);
     if (i < refCount) {
-        double restLow = lo;
-        double restHigh = hi;
+        double restLow = 0;
+        double restHigh = 0;
         extremes(ref + i, refCount - i, &restLow, &restHigh);
         lo = std::min(lo, restLow);
         hi = std::max(hi, restHigh);

@@ -127,6 +127,32 @@ void pickInCombo(QComboBox* c, int index)
         QMetaObject::invokeMethod(c, "textActivated", Qt::DirectConnection, Q_ARG(QString, text));
 }
 
+// The item reading exactly text, -1 for none.
+int exactIndex(const QComboBox* c, const QString& text)
+{
+    return c->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
+}
+
+// A step's action that clicks b, or picks item index of c, once the step is
+// done; the widget may be gone by then.
+Outcome clickLater(QAbstractButton* b)
+{
+    QPointer<QAbstractButton> p(b);
+    return stepDone([p] {
+        if (p)
+            clickButton(p);
+    });
+}
+
+Outcome pickLater(QComboBox* c, int index)
+{
+    QPointer<QComboBox> p(c);
+    return stepDone([p, index] {
+        if (p)
+            pickInCombo(p, index);
+    });
+}
+
 } // namespace
 
 namespace answers {
@@ -267,11 +293,7 @@ Outcome DialogDriver::Private::stepSet(QWidget* dialog, QWidget* w, const QStrin
 Outcome DialogDriver::Private::stepClick(QWidget* w, const QString& name)
 {
     if (auto* b = qobject_cast<QAbstractButton*>(w)) {
-        QPointer<QAbstractButton> p(b);
-        return stepDone([p] {
-            if (p)
-                clickButton(p);
-        });
+        return clickLater(b);
     }
     auto* g = qobject_cast<QGroupBox*>(w);
     if (g && g->isCheckable()) {
@@ -318,16 +340,12 @@ Outcome DialogDriver::Private::stepChoose(QWidget* w, const QString& name, const
         if (texts.size() > 1)
             return stepFailed(quoted(name) + QStringLiteral(" is a combo box and takes one item"));
         if (!texts.isEmpty())
-            index = c->findText(texts.first(), Qt::MatchExactly | Qt::MatchCaseSensitive);
+            index = exactIndex(c, texts.first());
         if (index < 0 || index >= c->count())
             return stepFailed(QStringLiteral("no item %1 in %2 (items: %3)")
                               .arg(texts.isEmpty() ? QString::number(index) : quoted(texts.first()),
                                    quoted(name), itemList(comboItems(c))));
-        QPointer<QComboBox> p(c);
-        return stepDone([p, index] {
-            if (p)
-                pickInCombo(p, index);
-        });
+        return pickLater(c, index);
     }
     if (auto* v = qobject_cast<QAbstractItemView*>(w)) {
         if (index >= 0) {
@@ -443,11 +461,7 @@ Outcome DialogDriver::Private::stepRadio(QWidget* w, const QString& name, int id
     const Outcome u = usable(button, name + QStringLiteral(" button ") + QString::number(id));
     if (u.kind == Outcome::Failed)
         return u;
-    QPointer<QAbstractButton> p(button);
-    return stepDone([p] {
-        if (p)
-            clickButton(p);
-    });
+    return clickLater(button);
 }
 
 Outcome DialogDriver::Private::stepCell(QWidget* dialog, QWidget* w, const QString& name, int row,
@@ -470,15 +484,11 @@ Outcome DialogDriver::Private::stepCell(QWidget* dialog, QWidget* w, const QStri
         if (!c)
             c = inCell->findChild<QComboBox*>();
         if (c) {
-            const int index = c->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
+            const int index = exactIndex(c, text);
             if (index < 0)
                 return stepFailed(QStringLiteral("no item %1 in the combo box of %2 (items: %3)")
                                   .arg(quoted(text), cell, itemList(comboItems(c))));
-            QPointer<QComboBox> p(c);
-            return stepDone([p, index] {
-                if (p)
-                    pickInCombo(p, index);
-            });
+            return pickLater(c, index);
         }
         return stepSet(dialog, inCell, cell, text);
     }
@@ -516,7 +526,7 @@ Outcome DialogDriver::Private::stepCell(QWidget* dialog, QWidget* w, const QStri
         }
         bool oneLine = true;
         if (auto* c = qobject_cast<QComboBox*>(editor.data()); c && !c->isEditable()) {
-            const int index = c->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
+            const int index = exactIndex(c, text);
             if (index < 0) {
                 fail(QStringLiteral("no item %1 in the editor of %2").arg(quoted(text), cell));
                 return;
@@ -634,11 +644,7 @@ Outcome DialogDriver::Private::stepMessage(QWidget* dialog, const QString& butto
         if (plain(b->text()) != button)
             continue;
         reportBox(box, button);
-        QPointer<QAbstractButton> p(b);
-        return stepDone([p] {
-            if (p)
-                clickButton(p);
-        });
+        return clickLater(b);
     }
     return stepFailed(QStringLiteral("no button %1 in the message box %2: %3 (it has %4)")
                       .arg(quoted(button), quoted(box->windowTitle()), quoted(box->text()), itemList(texts)));
@@ -660,11 +666,7 @@ Outcome DialogDriver::Private::stepEnd(QWidget* dialog, bool accept)
             return u;
         if (auto* box = qobject_cast<QMessageBox*>(dialog))
             reportBox(box, shown);
-        QPointer<QAbstractButton> p(button);
-        return stepDone([p] {
-            if (p)
-                clickButton(p);
-        });
+        return clickLater(button);
     }
     // Nobody can press a hidden Ok; a dialog without a visible Cancel is
     // still closed by Escape or its title bar, which reject it.

@@ -17,6 +17,17 @@
 #include <exception>
 #include <limits>
 
+#if defined(__SANITIZE_ADDRESS__)
+#define VT_ADDRESS_SANITIZER 1
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define VT_ADDRESS_SANITIZER 1
+#endif
+#endif
+#ifdef VT_ADDRESS_SANITIZER
+#include <sanitizer/asan_interface.h>
+#endif
+
 namespace vtkit {
 
 ScriptValue ScriptValue::fromStrings(std::vector<std::string> strings)
@@ -54,17 +65,6 @@ bool ScriptValue::operator==(const ScriptValue& o) const
 
 namespace {
 
-#if defined(__SANITIZE_ADDRESS__)
-#define VT_ADDRESS_SANITIZER 1
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define VT_ADDRESS_SANITIZER 1
-#endif
-#endif
-#ifdef VT_ADDRESS_SANITIZER
-#include <sanitizer/asan_interface.h>
-#endif
-
 // DupString copies of one call, packed into blocks that are freed when the
 // call ends: splitting a large text makes a copy per part, and a malloc and
 // a free for each would cost more than the splitting.
@@ -96,7 +96,7 @@ public:
             if (m_next) {
                 at = m_next;
                 m_next += step;
-                m_left -= std::min(step, m_left);
+                m_left -= step;
             }
         }
         if (at) {

@@ -107,7 +107,7 @@ std::vector<std::string> collectBoundWidgets(QDialog* dialog)
     for (const auto& [w, def] : boundWidgets(dialog)) {
         const int index = def->outElementIndex();
         QString text;
-        if (index < 0 || qobject_cast<Label*>(w) || !collect(w, &text))
+        if (index < 0 || !collect(w, &text))
             continue;
         const bool visible = w->isVisibleTo(dialog);
         if (static_cast<std::size_t>(index) >= elements.size())

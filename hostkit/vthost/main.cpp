@@ -178,11 +178,7 @@ vtkit::CallResult runCall(vtkit::Engine& engine, const Answering& answering, con
 {
     if (!answering.scripted && !answering.headless)
         return engine.call(name.toStdString(), args);
-    vtkit::DialogDriver driver(answering.script, [](const QByteArray& line) {
-        std::fwrite(line.constData(), 1, std::size_t(line.size()), stderr);
-        std::fputc('\n', stderr);
-        std::fflush(stderr);
-    });
+    vtkit::DialogDriver driver(answering.script); // event lines go to stderr
     driver.setFailOnDialog(!answering.scripted);
     return driver.call(engine, name.toStdString(), args);
 }

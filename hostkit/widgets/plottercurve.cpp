@@ -373,11 +373,7 @@ void Plotter::drawCurve(QPainter& p, const QRect& area, const Curve& curve) cons
             j = i + 1;
             while (j < n && d[2 * j] >= lo && d[2 * j] < hi && showable(sy, d[2 * j + 1]))
                 ++j;
-            run = RunExtremes{col.low, col.high, true};
-            for (std::size_t k = i + 1; k < j; ++k) {
-                run.low = std::min(run.low, d[2 * k + 1]);
-                run.high = std::max(run.high, d[2 * k + 1]);
-            }
+            run = runExtremes(d.data(), i + 1, j, col.low, col.high);
         }
         col.low = run.low;
         col.high = run.high;
