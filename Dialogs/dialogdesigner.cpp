@@ -143,7 +143,8 @@ void DialogDesigner::onTreeContextMenu(const QPoint& pos)
 bool DialogDesigner::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Drop && watched) {
-        // The drop is done first; the check must see the tree it leaves.
+        // The viewport sees the drop first; the check is posted, so that it
+        // runs once the view has moved the items and sees the tree they leave.
         watched->event(event);
         QCoreApplication::postEvent(this, new UpdatePreviewEvent, Qt::NormalEventPriority);
     }

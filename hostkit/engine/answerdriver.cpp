@@ -110,10 +110,13 @@ void DialogDriver::Private::tick()
             absentWait.restart();
         } else if (absentWait.exhausted()) {
             if (next < steps.size())
-                fail(QStringLiteral("step %1 %2: waited 5 s for a dialog; none is open")
-                         .arg(next + 1).arg(stepText(steps[next].toObject())));
+                fail(QStringLiteral("step %1 %2: waited %3 s for a dialog; none is open")
+                         .arg(next + 1)
+                         .arg(stepText(steps[next].toObject()))
+                         .arg(double(absentWait.wait()) / 1000));
             else
-                fail(QStringLiteral("no dialog open for 5 s after the last step, and the call has not returned"));
+                fail(QStringLiteral("no dialog open for %1 s after the last step, and the call has not returned")
+                         .arg(double(absentWait.wait()) / 1000));
         }
         return;
     }
@@ -136,15 +139,17 @@ void DialogDriver::Private::tick()
         return;
     }
     const QJsonObject step = steps[next].toObject();
-    const QString label = QStringLiteral("step %1 %2: ").arg(next + 1).arg(stepText(step));
+    // Made only for a failure: a waiting step is tried on every tick.
+    const auto label = [&] { return QStringLiteral("step %1 %2: ").arg(next + 1).arg(stepText(step)); };
     Outcome o = perform(step, dialog);
     if (o.kind == Outcome::NotYet) {
+        // The step says what it waits for; how long is the wait's own.
         if (stepWait.exhausted())
-            fail(label + o.why);
+            fail(label() + QStringLiteral("waited %1 s ").arg(double(stepWait.wait()) / 1000) + o.why);
         return;
     }
     if (o.kind == Outcome::Failed) {
-        fail(label + o.why);
+        fail(label() + o.why);
         return;
     }
     ++next;

@@ -181,14 +181,14 @@ Outcome DialogDriver::Private::perform(const QJsonObject& step, QWidget* dialog)
         const QString name = value.toString();
         if (dialog->objectName() == name || dialog->windowTitle() == name)
             return stepDone();
-        return stepWaiting(QStringLiteral("waited 5 s for dialog %1; the active one is %2").arg(quoted(name), dialogName));
+        return stepWaiting(QStringLiteral("for dialog %1; the active one is %2").arg(quoted(name), dialogName));
     }
     if (action == QLatin1String("message"))
         return stepMessage(dialog, value.toString());
     if (action == QLatin1String("file")) {
         QPointer<QFileDialog> fd = qobject_cast<QFileDialog*>(dialog);
         if (!fd)
-            return stepWaiting(QStringLiteral("waited 5 s for a file dialog; the active one is %1").arg(dialogName));
+            return stepWaiting(QStringLiteral("for a file dialog; the active one is %1").arg(dialogName));
         const QString path = value.toString();
         return stepDone([fd, path] {
             if (!fd)
@@ -209,7 +209,7 @@ Outcome DialogDriver::Private::perform(const QJsonObject& step, QWidget* dialog)
     if (action == QLatin1String("color")) {
         QPointer<QColorDialog> cd = qobject_cast<QColorDialog*>(dialog);
         if (!cd)
-            return stepWaiting(QStringLiteral("waited 5 s for a colour dialog; the active one is %1").arg(dialogName));
+            return stepWaiting(QStringLiteral("for a colour dialog; the active one is %1").arg(dialogName));
         const QString color = value.toString();
         const bool cancel = value.isNull();
         return stepDone([cd, color, cancel] {
@@ -636,7 +636,7 @@ Outcome DialogDriver::Private::stepMessage(QWidget* dialog, const QString& butto
 {
     auto* box = qobject_cast<QMessageBox*>(dialog);
     if (!box)
-        return stepWaiting(QStringLiteral("waited 5 s for a message box; the active window is %1").arg(quoted(windowName(dialog))));
+        return stepWaiting(QStringLiteral("for a message box; the active window is %1").arg(quoted(windowName(dialog))));
     QStringList texts;
     const QList<QAbstractButton*> buttons = box->buttons();
     for (QAbstractButton* b : buttons) {
