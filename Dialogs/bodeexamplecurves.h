@@ -5,6 +5,8 @@
 // share one axis. Flat x, y pairs, 301 points each.
 #pragma once
 
+#include <vector>
+
 namespace bodeexample {
 
 inline constexpr double kGain[] = {
@@ -116,5 +118,11 @@ inline constexpr double kPhase[] = {
 inline constexpr int kPoints = 301;
 static_assert(sizeof(kGain) == sizeof(double) * 2 * kPoints, "301 gain points");
 static_assert(sizeof(kPhase) == sizeof(double) * 2 * kPoints, "301 phase points");
+
+// A table as a Plotter takes its curves.
+inline std::vector<double> curve(const double (&flat)[2 * kPoints])
+{
+    return std::vector<double>(flat, flat + 2 * kPoints);
+}
 
 } // namespace bodeexample

@@ -52,11 +52,6 @@ QPen curvePen()
     return QPen(QBrush(defaultCurveColour()), 2.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
 }
 
-std::vector<double> curveData(const double* flat)
-{
-    return std::vector<double>(flat, flat + 2 * bodeexample::kPoints);
-}
-
 QString flag(bool on)
 {
     return QString::number(on ? 1 : 0, 10);
@@ -276,8 +271,8 @@ void EditBodePlotProbeDialog2::update_graphs()
         plotter->setMargins(0, 0, 0, 0);
         plotter->clearCurveAll();
     }
-    const std::vector<double> gain = curveData(bodeexample::kGain);
-    const std::vector<double> phase = curveData(bodeexample::kPhase);
+    const std::vector<double> gain = bodeexample::curve(bodeexample::kGain);
+    const std::vector<double> phase = bodeexample::curve(bodeexample::kPhase);
 
     bool lowerShown = false;
     bool placementEnabled = false;

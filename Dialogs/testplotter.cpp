@@ -64,9 +64,8 @@ void fill(QDialog* dialog)
 
     bode->initializeAxes(Axis(10, 10000, 3, 8, 1, 0), Axis(-60, 20, 3, 1, 0, 0));
     bode->setMargins(4, 4, 8, 2);
-    const int n = 2 * bodeexample::kPoints;
-    bode->setCurveData(0, std::vector<double>(bodeexample::kGain, bodeexample::kGain + n), pen(QColor(0, 128, 0)));
-    bode->setCurveData(1, std::vector<double>(bodeexample::kPhase, bodeexample::kPhase + n), pen(QColor(200, 40, 40)));
+    bode->setCurveData(0, bodeexample::curve(bodeexample::kGain), pen(QColor(0, 128, 0)));
+    bode->setCurveData(1, bodeexample::curve(bodeexample::kPhase), pen(QColor(200, 40, 40)));
     const QPen marker(QColor(90, 90, 200), 1, Qt::DashLine);
     bode->setCursorData(0, CursorLine(true, 500, QStringLiteral("f0"), true, true, marker));
     bode->setCursorData(1, CursorLine(false, 0, QStringLiteral("0 dB"), true, true, marker));

@@ -354,7 +354,7 @@ void Plotter::zoom(double factorX, double factorY, QPointF centre)
 {
     const QRect area = plotArea();
     const auto scaled = [](const Axis& a, const Scale& s, double factor, double pixel) {
-        const double tc = s.t0 + (pixel - s.origin) / s.k;
+        const double tc = s.tFromPixel(pixel);
         const double t0 = s.t(a.low()), t1 = s.t(a.high());
         return withRange(a, tc + (t0 - tc) * factor, tc + (t1 - tc) * factor);
     };

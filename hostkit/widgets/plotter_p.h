@@ -59,9 +59,12 @@ struct Scale {
         return v > 0.0 ? std::log10(v) : std::numeric_limits<double>::quiet_NaN();
     }
     double toPixel(double v) const { return origin + (t(v) - t0) * k; }
+    // The axis' own scale at a pixel position (log10 of the value on a log
+    // axis), and the value there.
+    double tFromPixel(double pixel) const { return t0 + (pixel - origin) / k; }
     double fromPixel(double pixel) const
     {
-        const double tv = t0 + (pixel - origin) / k;
+        const double tv = tFromPixel(pixel);
         return log ? std::pow(10.0, tv) : tv;
     }
 };
