@@ -184,6 +184,8 @@ class PageMaps {
 public:
     void storePage(const QString& tab, QWidget* page, QGridLayout* grid);
     void storeGroup(const QString& key, QWidget* box, QGridLayout* grid);
+    // A group the form itself holds, with the grid it gave the group, top-aligned.
+    void storeFormGroup(const QString& key, QWidget* box);
     QWidget* page(const QString& tab) const { return find(m_pages, tab); }
     QGridLayout* pageGrid(const QString& tab) const { return find(m_pageGrids, tab); }
     QWidget* group(const QString& key) const { return find(m_groups, key); }
@@ -244,9 +246,11 @@ struct PlacementRules {
     std::function<void(const ParameterDescriptor&, const PlacedParameter&)> placed;
 };
 
-// One page per tab title with a top-aligned grid, stored under the title
-// and appended to tabs. A negative margin or spacing keeps the layout's
-// default.
+// A page with a top-aligned grid, named and stored under title. A negative
+// margin or spacing keeps the layout's default.
+QWidget* makePage(PageMaps& maps, const QString& title, int margin, int spacing);
+
+// One such page per tab title, appended to tabs.
 void makeTabPages(const ParameterPageSpec& spec, PageMaps& maps, QTabWidget* tabs, int margin,
                   int spacing);
 

@@ -413,20 +413,32 @@ void PageMaps::storeGroup(const QString& key, QWidget* box, QGridLayout* grid)
     m_groupGrids[key] = grid;
 }
 
+void PageMaps::storeFormGroup(const QString& key, QWidget* box)
+{
+    auto* grid = qobject_cast<QGridLayout*>(box->layout());
+    if (grid)
+        grid->setAlignment(Qt::AlignTop);
+    storeGroup(key, box, grid);
+}
+
+QWidget* makePage(PageMaps& maps, const QString& title, int margin, int spacing)
+{
+    auto* page = new QWidget;
+    page->setObjectName(title);
+    QGridLayout* grid = topAlignedGrid(page);
+    if (margin >= 0)
+        grid->setContentsMargins(margin, margin, margin, margin);
+    if (spacing >= 0)
+        grid->setSpacing(spacing);
+    maps.storePage(title, page, grid);
+    return page;
+}
+
 void makeTabPages(const ParameterPageSpec& spec, PageMaps& maps, QTabWidget* tabs, int margin,
                   int spacing)
 {
-    for (const QString& title : spec.tabTitles()) {
-        auto* page = new QWidget;
-        page->setObjectName(title);
-        QGridLayout* grid = topAlignedGrid(page);
-        if (margin >= 0)
-            grid->setContentsMargins(margin, margin, margin, margin);
-        if (spacing >= 0)
-            grid->setSpacing(spacing);
-        maps.storePage(title, page, grid);
-        tabs->addTab(page, title);
-    }
+    for (const QString& title : spec.tabTitles())
+        tabs->addTab(makePage(maps, title, margin, spacing), title);
 }
 
 void placeGroups(const ParameterPageSpec& spec, PageMaps& maps,

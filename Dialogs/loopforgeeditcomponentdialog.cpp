@@ -256,12 +256,8 @@ void LoopForgeEditComponentDialog::populateWidgets()
     const std::pair<const char*, QWidget*> fixed[] = {{"Params", m_ui->groupBoxParams},
                                                       {"Delay", m_ui->radioGroupDelay},
                                                       {"Output", m_ui->radioGroupOutput}};
-    for (const auto& [name, group] : fixed) {
-        auto* grid = qobject_cast<QGridLayout*>(group->layout());
-        if (grid)
-            grid->setAlignment(Qt::AlignTop);
-        m_groups.storeGroup(QLatin1String(name), group, grid);
-    }
+    for (const auto& [name, group] : fixed)
+        m_groups.storeFormGroup(QLatin1String(name), group);
     parameterpages::PlacementRules rules;
     rules.firstDescriptor = 2;
     rules.nestedGroupsFirst = false;

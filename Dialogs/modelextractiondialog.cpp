@@ -349,13 +349,8 @@ void ModelExtractionDialog::populateWidgets()
     if (m_args[ArgParams].isEmpty() || m_args[ArgValues].isEmpty())
         return;
     const parameterpages::ParameterPageSpec spec(m_args[ArgParams], m_args[ArgValues]);
-    auto* extractGrid = qobject_cast<QGridLayout*>(m_ui->groupBoxExtract->layout());
-    auto* userGrid = qobject_cast<QGridLayout*>(m_ui->groupBoxUser->layout());
-    for (QGridLayout* grid : {extractGrid, userGrid})
-        if (grid)
-            grid->setAlignment(Qt::AlignTop);
-    m_groups.storeGroup(QLatin1String(kExtractedGroup), m_ui->groupBoxExtract, extractGrid);
-    m_groups.storeGroup(QLatin1String(kUserGroup), m_ui->groupBoxUser, userGrid);
+    m_groups.storeFormGroup(QLatin1String(kExtractedGroup), m_ui->groupBoxExtract);
+    m_groups.storeFormGroup(QLatin1String(kUserGroup), m_ui->groupBoxUser);
 
     parameterpages::PlacementRules rules;
     rules.firstDescriptor = 1;
@@ -387,7 +382,7 @@ void ModelExtractionDialog::populateWidgets()
     };
     parameterpages::placeParameters(spec, m_groups, rules);
     // Keeps the user-defined page from collapsing around short parameters.
-    if (userGrid)
+    if (QGridLayout* userGrid = m_groups.groupGrid(QLatin1String(kUserGroup)))
         userGrid->addItem(new QSpacerItem(20, 0, QSizePolicy::Fixed, QSizePolicy::Expanding), 100, 0);
 }
 

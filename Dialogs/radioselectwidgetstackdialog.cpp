@@ -150,14 +150,7 @@ void RadioSelectWidgetStackDialog::makeSelection(const parameterpages::Parameter
     group->setObjectName(QStringLiteral("buttonGroup"));
     for (int i = 0; i < spec.tabCount(); ++i) {
         const QString title = spec.tabTitle(i);
-        auto* page = new QWidget;
-        page->setObjectName(title);
-        auto* grid = new QGridLayout(page);
-        grid->setContentsMargins(0, 0, 0, 0);
-        grid->setSpacing(0);
-        grid->setAlignment(Qt::AlignTop);
-        m_maps->storePage(title, page, grid);
-        m_ui->wStack->addWidget(page);
+        m_ui->wStack->addWidget(parameterpages::makePage(*m_maps, title, 0, 0));
 
         auto* button = new RadioButton(m_ui->radiogroupSelect);
         button->setObjectName(QStringLiteral("radioButtonSelect") + QString::number(i));
